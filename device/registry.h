@@ -1,0 +1,33 @@
+// The device registry: a tree of entries in which a bridge hangs four levels below the bus
+// device that carries it, with its own name three levels below itself.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// Names an entry of the registry; 0 is "no entry", and every question about it has the empty
+// answer. An entry stays valid until its bridge has left.
+using registry_entry = std::uint64_t;
+
+// Any thread, several at once. Nothing blocks for longer than a look at local data, and nothing
+// fails: what is missing is 0 or empty.
+class device_registry {
+public:
+    virtual ~device_registry() = default;
+
+    // The bridge's own entry for a device handle of the access library.
+    virtual registry_entry entry_of(std::uint32_t device) = 0;
+
+    virtual registry_entry parent(registry_entry entry) = 0;
+    virtual registry_entry first_child(registry_entry entry) = 0;
+
+    // At most 127 characters. That of a FireWire bus device contains "FireWire".
+    virtual std::string name(registry_entry entry) = 0;
+
+    // "GUID" (64 bits); "idVendor", "idProduct", "locationID" (32 bits, signed).
+    virtual std::int64_t number(registry_entry entry, std::string_view property) = 0;
+
+    // "USB Serial Number".
+    virtual std::u16string text(registry_entry entry, std::string_view property) = 0;
+};
