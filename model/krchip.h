@@ -61,8 +61,8 @@ public:
     // Takes the rebuild mark from the member on `port`, on the disk and in the cached sector.
     void clear_rebuild(bool port);
 
-    // Starts the poller of a running rebuild unless there is one. Always true. Also called
-    // without the gate, on an element of krtool::chips.
+    // Starts the poller of a running rebuild unless there is one. Always true. Those without the
+    // gate take start_wanted_poller().
     bool start_polling();
     // Clears `polling` and hides the progress bar; does not wait. Always true.
     bool stop_polling();

@@ -4,13 +4,13 @@
 #include <sstream>
 
 void call_log::keep_only(std::uint32_t sources) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     kept_ = sources;
 }
 
 void call_log::add(call_source source, std::string text) {
     {
-        const std::lock_guard lock(mutex_);
+        const mutex_scope lock(mutex_);
         if ((kept_ & source) == 0) {
             return;
         }
@@ -20,13 +20,13 @@ void call_log::add(call_source source, std::string text) {
 }
 
 void call_log::clear() {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     lines_.clear();
     kept_ = from_everybody;
 }
 
 std::vector<std::string> call_log::lines(std::uint32_t sources) const {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     std::vector<std::string> result;
     for (const auto& [source, text] : lines_) {
         if ((sources & source) != 0) {
@@ -38,7 +38,7 @@ std::vector<std::string> call_log::lines(std::uint32_t sources) const {
 
 std::vector<std::string> call_log::take(std::uint32_t sources) {
     std::vector<std::string> result = lines(sources);
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     lines_.clear();
     return result;
 }
@@ -50,14 +50,15 @@ std::size_t call_log::matches(const std::string& beginning) const {
 }
 
 std::size_t call_log::count(const std::string& beginning) const {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     return matches(beginning);
 }
 
-void call_log::await(const std::string& beginning,
-                     std::size_t times) const NO_THREAD_SAFETY_ANALYSIS {
-    std::unique_lock lock(mutex_);
-    grown_.wait(lock, [&] { return matches(beginning) >= times; });
+void call_log::await(const std::string& beginning, std::size_t times) const {
+    const mutex_scope lock(mutex_);
+    while (matches(beginning) < times) {
+        grown_.wait(mutex_);
+    }
 }
 
 std::string quoted(const std::string& text) {

@@ -4,11 +4,11 @@
 #include <condition_variable>
 #include <cstddef>
 #include <cstdint>
-#include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "util/mutex.h"
 #include "util/thread_annotations.h"
 
 // Who a line comes from; values add up to a choice of several.
@@ -46,8 +46,8 @@ public:
 private:
     std::size_t matches(const std::string& beginning) const REQUIRES(mutex_);
 
-    mutable std::mutex mutex_;
-    mutable std::condition_variable grown_;
+    mutable plain_mutex mutex_;
+    mutable std::condition_variable_any grown_;
     std::uint32_t kept_ GUARDED_BY(mutex_) = from_everybody;
     std::vector<std::pair<call_source, std::string>> lines_ GUARDED_BY(mutex_);
 };

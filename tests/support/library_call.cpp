@@ -16,7 +16,6 @@ std::string sketch(const sector_bytes& sector) {
         return "other";
     }
     std::array<char, 64> text{};
-    std::snprintf(text.data(), text.size(), "KR mode %d member %d flags %02x", sector[2], sector[3],
-                  sector[4]);
+    std::snprintf(text.data(), text.size(), "KR %d %d %02x", sector[2], sector[3], sector[4]);
     return text.data();
 }

@@ -27,6 +27,6 @@ struct library_answer {
     std::optional<std::int32_t> count = {}; // of a device list
 };
 
-// A few words for the contents of a sector that is written: "zeros", "other", or what a record
-// says, "KR mode 2 member 0 flags 80".
+// A few words for the contents of a sector that is written: "zeros", "other", or of a record
+// "KR", mode, member and flags, "KR 2 0 80".
 std::string sketch(const sector_bytes& sector);

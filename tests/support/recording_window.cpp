@@ -3,17 +3,17 @@
 #include <utility>
 
 void recording_window::on(const std::string& operation, std::function<void()> action) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     actions_[operation] = std::move(action);
 }
 
 void recording_window::on_call(std::function<void()> every) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     every_ = std::move(every);
 }
 
 void recording_window::reset() {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     actions_.clear();
     every_ = nullptr;
 }
@@ -22,7 +22,7 @@ void recording_window::called(const std::string& operation, const std::string& a
     std::function<void()> every;
     std::function<void()> action;
     {
-        const std::lock_guard lock(mutex_);
+        const mutex_scope lock(mutex_);
         every = every_;
         const auto found = actions_.find(operation);
         if (found != actions_.end()) {

@@ -3,11 +3,11 @@
 
 #include <functional>
 #include <map>
-#include <mutex>
 #include <string>
 
 #include "model/window.h"
 #include "tests/support/call_log.h"
+#include "util/mutex.h"
 #include "util/thread_annotations.h"
 
 // Thrown where the process would have ended.
@@ -50,7 +50,7 @@ private:
     void called(const std::string& operation, const std::string& arguments = "");
 
     call_log& log_;
-    std::mutex mutex_;
+    plain_mutex mutex_;
     std::map<std::string, std::function<void()>> actions_ GUARDED_BY(mutex_);
     std::function<void()> every_ GUARDED_BY(mutex_);
 };

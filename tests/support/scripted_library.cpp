@@ -64,12 +64,12 @@ scripted_library::~scripted_library() {
 
 void scripted_library::expect(const std::string& text, library_answer answer,
                               std::optional<sector_bytes> record) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     script_.expect({text, std::move(answer), record});
 }
 
 void scripted_library::finish() {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     script_.finish();
     bridges_ = {};
     interventions_.clear();
@@ -77,7 +77,7 @@ void scripted_library::finish() {
 }
 
 void scripted_library::with_bridges(const std::function<void(memory_enclosure&)>& change) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     change(bridges_);
 }
 
@@ -85,37 +85,37 @@ void scripted_library::add_bridge(std::uint32_t device, std::optional<memory_dis
                                   std::optional<memory_disk> disk1) {
     memory_bridge bridge;
     bridge.disks = {std::move(disk0), std::move(disk1)};
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     bridges_.bridges.emplace_back(device, std::move(bridge));
 }
 
 sector_bytes scripted_library::sector(std::uint32_t device, int port, std::uint64_t lba) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     return bridges_.sector(device, port, lba);
 }
 
 void scripted_library::answer_nth(const std::string& beginning, int nth, library_answer answer) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     interventions_.push_back({beginning, nth, false, std::move(answer), nullptr});
 }
 
 void scripted_library::answer_all(const std::string& beginning, library_answer answer) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     interventions_.push_back({beginning, 1, true, std::move(answer), nullptr});
 }
 
 void scripted_library::on_nth(const std::string& beginning, int nth, std::function<void()> action) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     interventions_.push_back({beginning, nth, false, {}, std::move(action)});
 }
 
 void scripted_library::on_call(hook every) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     every_ = std::move(every);
 }
 
 std::vector<scripted_library::intervention> scripted_library::due(const library_call& call) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     std::vector<intervention> now;
     for (auto planned = interventions_.begin(); planned != interventions_.end();) {
         if (!call.text.starts_with(planned->beginning) || --planned->countdown > 0) {
@@ -141,7 +141,7 @@ library_answer scripted_library::answer(const library_call& call) {
     if (instead) {
         return *instead;
     }
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     return script_.begun() ? script_.play(call) : bridges_.answer(call);
 }
 
@@ -165,7 +165,7 @@ std::int32_t scripted_library::run(const library_call& call, void* buffer, std::
 }
 
 scripted_library::hook scripted_library::every_call() {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     return every_;
 }
 

@@ -3,13 +3,13 @@
 
 #include <atomic>
 #include <functional>
-#include <mutex>
 #include <vector>
 
 #include "device/access_library.h"
 #include "tests/support/call_log.h"
 #include "tests/support/call_script.h"
 #include "tests/support/memory_enclosure.h"
+#include "util/mutex.h"
 #include "util/thread_annotations.h"
 
 // Logs every call with its status. Once something is expected, the script alone answers and any
@@ -81,7 +81,7 @@ private:
 
     call_log& log_;
     std::atomic<int> in_flight_{0};
-    std::mutex mutex_;
+    plain_mutex mutex_;
     call_script script_ GUARDED_BY(mutex_);
     memory_enclosure bridges_ GUARDED_BY(mutex_);
     std::vector<intervention> interventions_ GUARDED_BY(mutex_);

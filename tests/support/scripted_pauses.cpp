@@ -5,22 +5,22 @@
 #include <vector>
 
 void scripted_pauses::on_nth(int nth, std::function<void()> action) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     actions_.emplace(slept_ + nth, std::move(action));
 }
 
 void scripted_pauses::on_every(std::function<void()> action) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     every_ = std::move(action);
 }
 
 void scripted_pauses::remark(std::function<std::string()> text) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     remark_ = std::move(text);
 }
 
 void scripted_pauses::reset() {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     hurried_ = false;
     slept_ = 0;
     actions_.clear();
@@ -36,7 +36,7 @@ void scripted_pauses::sleep(std::chrono::milliseconds time) {
     std::vector<std::function<void()>> due;
     std::string line = "sleep(" + std::to_string(time.count()) + "ms)";
     {
-        const std::lock_guard lock(mutex_);
+        const mutex_scope lock(mutex_);
         line += remark_ ? remark_() : "";
         ++slept_;
         const auto [first, last] = actions_.equal_range(slept_);

@@ -4,10 +4,10 @@
 #include <atomic>
 #include <functional>
 #include <map>
-#include <mutex>
 
 #include "model/services.h"
 #include "tests/support/call_log.h"
+#include "util/mutex.h"
 #include "util/thread_annotations.h"
 
 // Writes down every pause, "sleep(10ms)", and returns at once. Any thread.
@@ -31,7 +31,7 @@ public:
 private:
     call_log& log_;
     std::atomic<bool> hurried_{false};
-    std::mutex mutex_;
+    plain_mutex mutex_;
     int slept_ GUARDED_BY(mutex_) = 0;
     std::multimap<int, std::function<void()>> actions_ GUARDED_BY(mutex_);
     std::function<void()> every_ GUARDED_BY(mutex_);

@@ -49,22 +49,22 @@ registered_bridge firewire_bridge(std::uint64_t guid) {
 }
 
 void scripted_registry::put(std::uint32_t device, registered_bridge bridge) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     bridges_[device] = std::move(bridge);
 }
 
 void scripted_registry::remove(std::uint32_t device) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     bridges_.erase(device);
 }
 
 void scripted_registry::reset() {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     bridges_.clear();
 }
 
 std::optional<registered_bridge> scripted_registry::bridge_of(registry_entry entry) const {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     const auto found = bridges_.find(device_of(entry));
     return found == bridges_.end() ? std::nullopt : std::optional(found->second);
 }

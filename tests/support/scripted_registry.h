@@ -3,12 +3,12 @@
 
 #include <cstdint>
 #include <map>
-#include <mutex>
 #include <optional>
 #include <string>
 
 #include "device/registry.h"
 #include "tests/support/call_log.h"
+#include "util/mutex.h"
 #include "util/thread_annotations.h"
 
 // What the registry says about one bridge. A property that is not given is missing.
@@ -44,6 +44,6 @@ private:
     std::optional<registered_bridge> bridge_of(registry_entry entry) const;
 
     call_log& log_;
-    mutable std::mutex mutex_;
+    mutable plain_mutex mutex_;
     std::map<std::uint32_t, registered_bridge> bridges_ GUARDED_BY(mutex_);
 };

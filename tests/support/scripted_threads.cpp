@@ -6,24 +6,24 @@
 #include "tests/support/recording_window.h"
 
 void scripted_threads::refuse() {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     refusing_ = true;
 }
 
 void scripted_threads::run_for_real(thread_starter& starter) {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     real_ = &starter;
 }
 
 std::size_t scripted_threads::waiting() const {
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     return bodies_.size();
 }
 
 void scripted_threads::run_next() {
     std::function<void()> body;
     {
-        const std::lock_guard lock(mutex_);
+        const mutex_scope lock(mutex_);
         if (bodies_.empty()) {
             ADD_FAILURE() << "no thread was started";
             return;
@@ -34,14 +34,21 @@ void scripted_threads::run_next() {
     body();
 }
 
-void scripted_threads::await_ends() const NO_THREAD_SAFETY_ANALYSIS {
-    std::unique_lock lock(mutex_);
-    ended_.wait(lock, [this] { return running_ == 0; });
+int scripted_threads::running() const {
+    const mutex_scope lock(mutex_);
+    return running_;
+}
+
+void scripted_threads::await_ends() const {
+    const mutex_scope lock(mutex_);
+    while (running_ > 0) {
+        ended_.wait(mutex_);
+    }
 }
 
 void scripted_threads::reset() {
     await_ends();
-    const std::lock_guard lock(mutex_);
+    const mutex_scope lock(mutex_);
     refusing_ = false;
     real_ = nullptr;
     bodies_.clear();
@@ -50,7 +57,7 @@ void scripted_threads::reset() {
 bool scripted_threads::start(std::function<void()> body) {
     thread_starter* real = nullptr;
     {
-        const std::lock_guard lock(mutex_);
+        const mutex_scope lock(mutex_);
         log_.add(from_threads, refusing_ ? "thread refused" : "thread started");
         if (refusing_) {
             return false;
@@ -72,7 +79,7 @@ void scripted_threads::run_and_count(const std::function<void()>& body) {
         log_.add(from_exit, "a thread ended the process with " + std::to_string(end.status));
     }
     {
-        const std::lock_guard lock(mutex_);
+        const mutex_scope lock(mutex_);
         --running_;
         ended_.notify_all();
     }

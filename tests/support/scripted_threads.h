@@ -5,10 +5,10 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
-#include <mutex>
 
 #include "model/services.h"
 #include "tests/support/call_log.h"
+#include "util/mutex.h"
 #include "util/thread_annotations.h"
 
 // Any thread.
@@ -24,6 +24,8 @@ public:
     std::size_t waiting() const;
     // Runs the oldest waiting body on this thread; fails the test when there is none.
     void run_next();
+    // How many real threads have not ended.
+    int running() const;
     // Blocks until every real thread has ended.
     void await_ends() const;
     void reset();
@@ -34,8 +36,8 @@ private:
     void run_and_count(const std::function<void()>& body);
 
     call_log& log_;
-    mutable std::mutex mutex_;
-    mutable std::condition_variable ended_;
+    mutable plain_mutex mutex_;
+    mutable std::condition_variable_any ended_;
     bool refusing_ GUARDED_BY(mutex_) = false;
     thread_starter* real_ GUARDED_BY(mutex_) = nullptr;
     int running_ GUARDED_BY(mutex_) = 0;

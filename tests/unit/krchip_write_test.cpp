@@ -104,15 +104,14 @@ protected:
 TEST_F(SectorWrite, WritesThenReadsBackTheSameSector) {
     krchip& chip = take_chip(memory_disk(disk_a()), memory_disk(disk_b()));
     EXPECT_TRUE(write(chip, record, 1999, true));
-    EXPECT_EQ(log.take(), (lines{"krSetRaidInfo(0x11, KR mode 1 member 0 flags 00, 512, 1999, 1, "
-                                 "1) = 0",
+    EXPECT_EQ(log.take(), (lines{"krSetRaidInfo(0x11, KR 1 0 00, 512, 1999, 1, 1) = 0",
                                  "krGetRaidInfo(0x11, 512, 1999, 1, 1) = 0"}));
     EXPECT_EQ(hex_dump(library.sector(device, 1, 1999)), hex_dump(record));
 }
 
 TEST_F(SectorWrite, FollowsAScriptByteByByte) {
     krchip& chip = take_chip(memory_disk(disk_a()), memory_disk(disk_b()));
-    library.expect("krSetRaidInfo(0x11, KR mode 1 member 0 flags 00, 512, 7, 0, 1)", {}, record);
+    library.expect("krSetRaidInfo(0x11, KR 1 0 00, 512, 7, 0, 1)", {}, record);
     library.expect("krGetRaidInfo(0x11, 512, 7, 0, 1)", holding(record));
     EXPECT_TRUE(write(chip, record, 7, false));
 }
@@ -230,16 +229,15 @@ TEST_F(SectorWrite, DoesNotBeginOnceTheProcessIsLeaving) {
 TEST_F(SectorWrite, AtAnAddressBeyondAnyDiskPassesItOnUnsignedAndFails) {
     krchip& chip = take_chip(memory_disk(disk_a()), memory_disk(disk_b()));
     EXPECT_FALSE(write(chip, record, -15, false));
-    EXPECT_EQ(log.take(), lines{"krSetRaidInfo(0x11, KR mode 1 member 0 flags 00, 512, "
-                                "18446744073709551601, 0, 1) = 5"});
+    EXPECT_EQ(log.take(),
+              lines{"krSetRaidInfo(0x11, KR 1 0 00, 512, 18446744073709551601, 0, 1) = 5"});
 }
 
 TEST_F(Degrade, WritesARecordWithoutPartnerThenFlushes) {
     krchip& chip = take_chip(std::nullopt, member_b(2));
     EXPECT_TRUE(degrade(chip, true));
     EXPECT_EQ(log.take(),
-              (lines{"krSetRaidInfo(0x11, KR mode 2 member 1 flags 00, 512, 1999, 1, "
-                     "1) = 0",
+              (lines{"krSetRaidInfo(0x11, KR 2 1 00, 512, 1999, 1, 1) = 0",
                      "krGetRaidInfo(0x11, 512, 1999, 1, 1) = 0", "krFlushHDDCache(0x11, 1) = 0"}));
     std::string time(16, '\0');
     std::copy_n(chip.disks[1].raid_time.begin(), 16, time.begin());
@@ -286,8 +284,7 @@ TEST_F(Degrade, FlushesAndStampsEvenWhenTheWriteFailed) {
     std::array<unsigned char, 16> now{};
     GetTimeString(now.data(), scripted_clock::start);
     EXPECT_FALSE(degrade(chip, false));
-    EXPECT_EQ(log.take(), (lines{"krSetRaidInfo(0x11, KR mode 2 member 0 flags 00, 512, 1999, 0, "
-                                 "1) = 1",
+    EXPECT_EQ(log.take(), (lines{"krSetRaidInfo(0x11, KR 2 0 00, 512, 1999, 0, 1) = 1",
                                  "krFlushHDDCache(0x11, 0) = 0"}));
     EXPECT_EQ(chip.disks[0].raid_time, now);
 }
@@ -303,11 +300,9 @@ TEST_F(ClearRebuild, ReadsThenWritesTwiceThenFlushes) {
     clear(chip, false);
     EXPECT_EQ(log.take(),
               (lines{"krGetRaidInfoFW(0x11, 512, 1999, 0) = 0",
-                     "krSetRaidInfo(0x11, KR mode 2 member 0 flags 00, 512, 1999, 0, "
-                     "1) = 0",
+                     "krSetRaidInfo(0x11, KR 2 0 00, 512, 1999, 0, 1) = 0",
                      "krGetRaidInfo(0x11, 512, 1999, 0, 1) = 0",
-                     "krSetRaidInfo(0x11, KR mode 2 member 0 flags 00, 512, 1999, 0, "
-                     "1) = 0",
+                     "krSetRaidInfo(0x11, KR 2 0 00, 512, 1999, 0, 1) = 0",
                      "krGetRaidInfo(0x11, 512, 1999, 0, 1) = 0", "krFlushHDDCache(0x11, 0) = 0"}));
 }
 
@@ -348,8 +343,7 @@ TEST_F(ClearRebuild, WritesTheCachedSectorFirstWhenTheReadFilledNothing) {
     krchip& chip = take_chip(memory_disk(disk_a(), marked), member_b(2));
     library.expect("krGetRaidInfoFW(0x11, 512, 1999, 0)", {1});
     for (int time = 0; time < 2; ++time) {
-        library.expect("krSetRaidInfo(0x11, KR mode 2 member 0 flags 00, 512, 1999, 0, 1)", {},
-                       unmarked());
+        library.expect("krSetRaidInfo(0x11, KR 2 0 00, 512, 1999, 0, 1)", {}, unmarked());
         library.expect("krGetRaidInfo(0x11, 512, 1999, 0, 1)", holding(unmarked()));
     }
     library.expect("krFlushHDDCache(0x11, 0)");
@@ -364,8 +358,7 @@ TEST_F(ClearRebuild, WritesWhatItReadFirstAndTheCachedSectorLast) {
     std::fill(other_cleared.begin() + 4, other_cleared.begin() + 8, static_cast<unsigned char>(0));
     library.expect("krGetRaidInfoFW(0x11, 512, 1999, 0)", holding(other));
     library.expect("krSetRaidInfo(0x11, other, 512, 1999, 0, 1)", {1}, other_cleared);
-    library.expect("krSetRaidInfo(0x11, KR mode 2 member 0 flags 00, 512, 1999, 0, 1)", {1},
-                   unmarked());
+    library.expect("krSetRaidInfo(0x11, KR 2 0 00, 512, 1999, 0, 1)", {1}, unmarked());
     library.expect("krFlushHDDCache(0x11, 0)");
     clear(chip, false);
 }
@@ -373,8 +366,7 @@ TEST_F(ClearRebuild, WritesWhatItReadFirstAndTheCachedSectorLast) {
 TEST_F(Selection, OfALoneMirrorMemberDegradesItAndStartsTheTimer) {
     krchip& chip = take_chip(member_a(2), std::nullopt);
     select(chip);
-    EXPECT_EQ(log.take(), (lines{"krSetRaidInfo(0x11, KR mode 2 member 0 flags 00, 512, 1999, 0, "
-                                 "1) = 0",
+    EXPECT_EQ(log.take(), (lines{"krSetRaidInfo(0x11, KR 2 0 00, 512, 1999, 0, 1) = 0",
                                  "krGetRaidInfo(0x11, 512, 1999, 0, 1) = 0",
                                  "krFlushHDDCache(0x11, 0) = 0", "thread started"}));
     EXPECT_TRUE(chip.raid1_timer_on);
@@ -396,9 +388,9 @@ TEST_F(Selection, DegradesPortZeroBeforePortOne) {
     chip.disks[1].raid1_orphan = 1;
     select(chip);
     EXPECT_EQ(log.take(from_library),
-              (lines{"krSetRaidInfo(0x11, KR mode 2 member 0 flags 00, 512, 1999, 0, 1) = 0",
+              (lines{"krSetRaidInfo(0x11, KR 2 0 00, 512, 1999, 0, 1) = 0",
                      "krGetRaidInfo(0x11, 512, 1999, 0, 1) = 0", "krFlushHDDCache(0x11, 0) = 0",
-                     "krSetRaidInfo(0x11, KR mode 2 member 1 flags 00, 512, 1999, 1, 1) = 0",
+                     "krSetRaidInfo(0x11, KR 2 1 00, 512, 1999, 1, 1) = 0",
                      "krGetRaidInfo(0x11, 512, 1999, 1, 1) = 0", "krFlushHDDCache(0x11, 1) = 0"}));
 }
 
@@ -409,8 +401,8 @@ TEST_F(Selection, DegradesAMirrorWhosePartnerCouldNotBeRead) {
     const gate_scope work(j.gate);
     chip.read_raid_info();
     chip.select_chip();
-    EXPECT_EQ(log.count("krSetRaidInfo(0x11, KR mode 2 member 0"), 1U);
-    EXPECT_EQ(log.count("krSetRaidInfo(0x11, KR mode 2 member 1"), 0U);
+    EXPECT_EQ(log.count("krSetRaidInfo(0x11, KR 2 0"), 1U);
+    EXPECT_EQ(log.count("krSetRaidInfo(0x11, KR 2 1"), 0U);
 }
 
 TEST_F(Selection, OfAMirrorInOrderOnlyStartsTheTimer) {

@@ -125,7 +125,7 @@ TEST(DiskSize, FallsBackToTwentyEightBitsWhenTheFortyEightBitCountIsZero) {
 
 TEST(DiskSize, IsTheChsProductWhenTheFortyEightBitCountIsZeroAndThereIsNoLba) {
     const krdisk disk = disk_from(fixture_file("identify-48bit-count-zero"));
-    EXPECT_EQ(disk.capacity, 16383U * 16 * 63);
+    EXPECT_EQ(disk.capacity, std::uint64_t{16383} * 16 * 63);
     EXPECT_EQ(disk.address_mode, 3U);
 }
 
@@ -133,7 +133,7 @@ TEST(DiskSize, BecomesHugeWhenTheChsProductExceedsThirtyOneBits) {
     EXPECT_EQ(disk_from(chs_block(32768, 256, 256)).capacity, 0xFFFFFFFF80000000U);
     EXPECT_EQ(disk_from(chs_block(32767, 256, 256)).capacity, 0x7FFF0000U);
     const krdisk disk = disk_from(fixture_file("identify-chs-beyond-31-bits"));
-    EXPECT_EQ(disk.capacity, 0xFFFFFFFF00000000U + 65535U * 255U * 255U);
+    EXPECT_EQ(disk.capacity, 0xFFFFFFFF00000000U + std::uint64_t{65535} * 255 * 255);
     EXPECT_EQ(disk.address_mode, 3U);
 }
 

@@ -138,8 +138,8 @@ TEST_F(Poller, FinishesOnTheSeventhFinishedReadingInARow) {
         const lines pass = passed("1900");
         expected.insert(expected.end(), pass.begin(), pass.end());
     }
-    const std::string port0 = "KR mode 2 member 0 flags 00, 512, 1999, 0, 1) = 0";
-    const std::string port1 = "KR mode 2 member 1 flags 00, 512, 1999, 1, 1) = 0";
+    const std::string port0 = "KR 2 0 00, 512, 1999, 0, 1) = 0";
+    const std::string port1 = "KR 2 1 00, 512, 1999, 1, 1) = 0";
     const lines finish = {"krGetRebuildStatus(0x11, 12) = 0",
                           "updatepoll(1900, 1900, false)",
                           "krGetRaidInfoFW(0x11, 512, 1999, 0) = 0",

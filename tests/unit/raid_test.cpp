@@ -36,15 +36,15 @@ std::string text_of(const time_text& time) {
     return {time.begin(), time.end()};
 }
 
-// Local time in `zone` for as long as it lives.
+// Local time in `zone` for as long as it lives. No other thread runs then.
 class time_zone {
 public:
     explicit time_zone(const char* zone) {
-        setenv("TZ", zone, 1);
+        setenv("TZ", zone, 1); // NOLINT(concurrency-mt-unsafe)
         tzset();
     }
     ~time_zone() {
-        unsetenv("TZ");
+        unsetenv("TZ"); // NOLINT(concurrency-mt-unsafe)
         tzset();
     }
     time_zone(const time_zone&) = delete;

@@ -192,7 +192,7 @@ TEST_F(Rescan, DegradesTheSelectedMirrorHalfAndStartsItsTimer) {
     const lines tail(all.end() - 8, all.end());
     EXPECT_EQ(tail,
               (lines{"trace(\"Conn open made true\")",
-                     "krSetRaidInfo(0x11, KR mode 2 member 0 flags 00, 512, 1999, 0, 1) = 0",
+                     "krSetRaidInfo(0x11, KR 2 0 00, 512, 1999, 0, 1) = 0",
                      "krGetRaidInfo(0x11, 512, 1999, 0, 1) = 0", "krFlushHDDCache(0x11, 0) = 0",
                      "thread started", "update_raid_information()", "trace(\"Dev Add finished\")",
                      "stopworking()"}));

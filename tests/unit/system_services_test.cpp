@@ -1,0 +1,79 @@
+#include "model/system_services.h"
+
+#include <chrono>
+#include <ctime>
+#include <future>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <thread>
+#include <unistd.h>
+
+#include "model/wake_point.h"
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+TEST(SteadyPauses, LastTheirTime) {
+    steady_pauses pauses;
+    const auto before = steady_clock::now();
+    pauses.sleep(milliseconds(20));
+    EXPECT_GE(steady_clock::now() - before, milliseconds(20));
+}
+
+TEST(SteadyPauses, AreCutShortByAWakePoint) {
+    steady_pauses pauses;
+    wake_point point;
+    point.wake();
+    pauses.sleep_until_woken(point, std::chrono::hours(1));
+}
+
+TEST(SteadyPauses, LastTheirTimeWhenNobodyWakes) {
+    steady_pauses pauses;
+    wake_point point;
+    const auto before = steady_clock::now();
+    pauses.sleep_until_woken(point, milliseconds(20));
+    EXPECT_GE(steady_clock::now() - before, milliseconds(20));
+}
+
+TEST(SystemClock, TellsThePresent) {
+    system_clock clock;
+    const std::time_t before = std::time(nullptr);
+    const std::time_t now = clock.now();
+    EXPECT_LE(before, now);
+    EXPECT_LE(now, std::time(nullptr));
+}
+
+TEST(DetachedThreads, RunTheirBodyOnAnotherThread) {
+    detached_threads threads;
+    std::promise<std::thread::id> ran;
+    ASSERT_TRUE(threads.start([&ran] { ran.set_value(std::this_thread::get_id()); }));
+    EXPECT_NE(ran.get_future().get(), std::this_thread::get_id());
+}
+
+// Sanitizers take the room for themselves.
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+
+namespace {
+
+// Leaves with 7 when it is told that a thread cannot be made. Everybody, root included, is bound
+// by the room that a stack needs.
+[[noreturn]] void start_without_room() {
+    const rlimit none{1, 1};
+    setrlimit(RLIMIT_AS, &none);
+    detached_threads threads;
+    _exit(threads.start([] {}) ? 1 : 7);
+}
+
+} // namespace
+
+TEST(DetachedThreadsDeathTest, ThatCannotBeMadeAreToldSo) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_EXIT(start_without_room(), testing::ExitedWithCode(7), "");
+}
+
+#endif
+
+TEST(SystemLog, TakesALineWithPercentSignsAsItStands) {
+    system_log log;
+    EXPECT_NO_FATAL_FAILURE(log.line("Kestrel : RAID size %s %n < 2TB"));
+}
