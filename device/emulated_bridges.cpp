@@ -1,0 +1,104 @@
+#include "device/emulated_bridges.h"
+
+#include "device/hotplug.h"
+#include "util/functions.h"
+
+#include <algorithm>
+
+namespace {
+
+// An entry is its bridge's number and a level: the bus device at the top, the bridge four levels
+// below it, the entry with the bridge's own name three below that.
+constexpr unsigned level_bits = 3;
+constexpr registry_entry level_mask = 7;
+constexpr registry_entry bus_device_level = 0;
+constexpr registry_entry bridge_level = 4;
+constexpr registry_entry name_level = 7;
+
+registry_entry level_of(registry_entry entry) {
+    return entry & level_mask;
+}
+
+} // namespace
+
+emulated_bridges::number_type emulated_bridges::add(const emulated_bridge& bridge) {
+    const emulated_guard guard(mutex_);
+    bridges_.emplace(++last_, bridge);
+    return last_;
+}
+
+void emulated_bridges::forget(number_type number) {
+    const emulated_guard guard(mutex_);
+    bridges_.erase(number);
+}
+
+registry_entry emulated_bridges::entry_of(std::uint32_t device) const {
+    const emulated_guard guard(mutex_);
+    const auto latest = std::find_if(bridges_.rbegin(), bridges_.rend(), [device](const auto& one) {
+        return one.second.handle == device;
+    });
+    return latest == bridges_.rend() ? 0 : latest->first << level_bits | bridge_level;
+}
+
+std::uint32_t emulated_bridges::handle_of(number_type number) const {
+    const emulated_guard guard(mutex_);
+    const auto found = bridges_.find(number);
+    return found == bridges_.end() ? 0 : found->second.handle;
+}
+
+std::optional<emulated_bridge> emulated_bridges::owner_of(registry_entry entry) const {
+    const emulated_guard guard(mutex_);
+    const auto found = bridges_.find(entry >> level_bits);
+    return found == bridges_.end() ? std::nullopt : std::optional(found->second);
+}
+
+registry_entry emulated_bridges::parent(registry_entry entry) const {
+    return owner_of(entry) && level_of(entry) > bus_device_level ? entry - 1 : 0;
+}
+
+registry_entry emulated_bridges::first_child(registry_entry entry) const {
+    return owner_of(entry) && level_of(entry) < name_level ? entry + 1 : 0;
+}
+
+std::string emulated_bridges::name(registry_entry entry) const {
+    const std::optional<emulated_bridge> bridge = owner_of(entry);
+    if (!bridge) {
+        return {};
+    }
+    switch (level_of(entry)) {
+    case bus_device_level:
+        return bridge->firewire ? "FireWire Device" : "USB Device";
+    case bridge_level:
+        return std::string(bridge_class);
+    case name_level:
+        return bridge->name;
+    default:
+        return "Emulated Node";
+    }
+}
+
+std::int64_t emulated_bridges::number(registry_entry entry, std::string_view property) const {
+    const std::optional<emulated_bridge> bridge = owner_of(entry);
+    if (!bridge || level_of(entry) != bus_device_level) {
+        return 0;
+    }
+    if (bridge->firewire) {
+        return property == "GUID" ? static_cast<std::int64_t>(bridge->guid) : 0;
+    }
+    if (property == "idVendor") {
+        return bridge->vendor_id;
+    }
+    if (property == "idProduct") {
+        return bridge->product_id;
+    }
+    return property == "locationID" ? bridge->location_id : 0;
+}
+
+std::u16string emulated_bridges::text(registry_entry entry, std::string_view property) const {
+    const std::optional<emulated_bridge> bridge = owner_of(entry);
+    if (!bridge || bridge->firewire || level_of(entry) != bus_device_level ||
+        property != "USB Serial Number") {
+        return {};
+    }
+    return stringtonsstring(bridge->serial);
+}

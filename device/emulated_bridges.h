@@ -1,0 +1,54 @@
+// What is known of the emulated bridges, as entries of the registry.
+#pragma once
+
+#include "device/emulated_lock.h"
+#include "device/registry.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// A bridge as it described itself on arrival.
+struct emulated_bridge {
+    std::uint32_t handle = 0;
+    bool firewire = false;
+    std::uint32_t vendor_id = 0;
+    std::uint32_t product_id = 0;
+    std::int32_t location_id = 0;
+    std::string serial;
+    std::uint64_t guid = 0;
+    std::string name;
+};
+
+// Every arrival gets a number of its own, even if a handle comes twice. Each bridge has eight
+// entries, from its bus device down to its name. Any thread.
+class emulated_bridges {
+public:
+    using number_type = std::uint64_t;
+
+    // Takes in a bridge and gives its number.
+    number_type add(const emulated_bridge& bridge);
+    void forget(number_type number);
+
+    // The latest bridge with the handle; 0 when there is none.
+    registry_entry entry_of(std::uint32_t device) const;
+    bool knows(std::uint32_t device) const { return entry_of(device) != 0; }
+
+    // The number's handle; 0 when it is unknown.
+    std::uint32_t handle_of(number_type number) const;
+
+    registry_entry parent(registry_entry entry) const;
+    registry_entry first_child(registry_entry entry) const;
+    std::string name(registry_entry entry) const;
+    std::int64_t number(registry_entry entry, std::string_view property) const;
+    std::u16string text(registry_entry entry, std::string_view property) const;
+
+private:
+    std::optional<emulated_bridge> owner_of(registry_entry entry) const;
+
+    mutable emulated_mutex mutex_;
+    std::map<number_type, emulated_bridge> bridges_ GUARDED_BY(mutex_);
+    number_type last_ GUARDED_BY(mutex_) = 0;
+};

@@ -1,0 +1,91 @@
+#include "enclosure/cabinet.h"
+
+#include "enclosure/names.h"
+#include "enclosure/problem.h"
+
+namespace enclosure {
+
+namespace {
+
+constexpr std::size_t longest_serial = 99;
+constexpr std::size_t longest_product = 15;
+constexpr std::chrono::milliseconds longest_restart = std::chrono::minutes(1);
+
+void check_text(const std::string& text, std::size_t longest, const std::string& what) {
+    if (text.size() > longest || printable(text) != text) {
+        throw problem(what + " '" + printable(text) + "' does not fit; take at most " +
+                      std::to_string(longest) + " printable ASCII characters");
+    }
+}
+
+} // namespace
+
+void check_settings(const cabinet_settings& settings) {
+    check_name("enclosure", settings.name);
+    check_text(settings.serial, longest_serial, "serial number");
+    check_text(settings.product, longest_product, "product text");
+    if (settings.restart_delay < std::chrono::milliseconds(0) ||
+        settings.restart_delay > longest_restart) {
+        throw problem("restart delay is out of range; take 0 to 60000 milliseconds");
+    }
+}
+
+cabinet::cabinet(cabinet_settings settings)
+    : settings_(std::move(settings)), faults_(bays_), chip_(bays_, faults_, settings_.product) {}
+
+void cabinet::plug(std::uint32_t handle, moment now, const std::optional<copy_progress>& before) {
+    returns_at_.reset();
+    handle_ = handle;
+    last_handle_ = handle;
+    chip_.power_on(now, before);
+}
+
+void cabinet::unplug() {
+    chip_.power_off();
+    handle_.reset();
+    returns_at_.reset();
+}
+
+void cabinet::begin_restart(moment now) {
+    chip_.power_off();
+    handle_.reset();
+    returns_at_ = now + settings_.restart_delay;
+}
+
+std::optional<bridge> cabinet::on_the_bus() const {
+    if (!handle_) {
+        return std::nullopt;
+    }
+    bridge seen;
+    seen.handle = *handle_;
+    seen.bus = settings_.bus;
+    seen.name = std::string(inquiry_vendor) + inquiry_product(settings_.product);
+    if (settings_.bus == bus_kind::usb) {
+        seen.vendor_id = settings_.vendor_id;
+        seen.product_id = settings_.product_id;
+        seen.location = settings_.location.value_or(0);
+        seen.serial = settings_.serial;
+    } else {
+        seen.guid = settings_.guid.value_or(0);
+    }
+    return seen;
+}
+
+void cabinet::insert(int port, std::shared_ptr<disk> what) {
+    bays_.insert(port, std::move(what));
+    bay_changed(port);
+}
+
+std::shared_ptr<disk> cabinet::pull(int port) {
+    std::shared_ptr<disk> taken = bays_.pull(port);
+    bay_changed(port);
+    return taken;
+}
+
+void cabinet::bay_changed(int port) {
+    if (handle_) {
+        chip_.disk_changed(port);
+    }
+}
+
+} // namespace enclosure

@@ -1,0 +1,91 @@
+// The bridge chip as a SCSI target.
+#pragma once
+
+#include "enclosure/bays.h"
+#include "enclosure/fault_stack.h"
+#include "enclosure/mirror_copy.h"
+#include "enclosure/scsi.h"
+#include "enclosure/vendor_commands.h"
+#include "enclosure/volume.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace enclosure {
+
+// INQUIRY texts. Readers join vendor and product as they are, so the blank between them is the
+// chip's to bring.
+inline constexpr std::string_view inquiry_vendor = "Emulated";
+std::string inquiry_product(const std::string& product);
+
+// A state machine: it has no thread and no clock of its own, and is used by one thread at a time.
+class chip {
+public:
+    // `product` is at most 15 printable characters. `disks` and `path`, which leads to them,
+    // outlive the chip.
+    chip(bays& disks, fault_stack& path, std::string product);
+
+    // Reads both disks' records, decides the volume and begins the copy they ask for. A copy
+    // that goes on after the desk itself was away takes up its progress of before.
+    void power_on(moment now, const std::optional<copy_progress>& before = std::nullopt);
+
+    // The copy stops.
+    void power_off();
+
+    // The disk in a bay was exchanged, taken out or put in. A copy stops; another begins only
+    // at the next power-on.
+    void disk_changed(int port);
+
+    // Carries out a command. Any bytes are safe: what is not understood is answered with a
+    // check condition. At most `allocation` bytes come back.
+    scsi_reply execute(byte_view cdb, byte_view data_out, std::uint32_t allocation);
+
+    // True once after a warm boot command: the chip wants to be switched off and on.
+    bool take_restart_request() { return std::exchange(restart_, false); }
+
+    // Goes on copying. True: more is due at `now`.
+    bool advance(moment now) { return copy_.advance(now); }
+
+    mirror_copy& copy() { return copy_; }
+    const mirror_copy& copy() const { return copy_; }
+
+    // A mirror whose copy has ended is in order.
+    volume presented() const;
+
+private:
+    scsi_reply dispatch(byte_view cdb, byte_view data_out);
+    scsi_reply inquiry(byte_view cdb) const;
+    scsi_reply test_ready() const;
+    scsi_reply request_sense(byte_view cdb) const;
+    scsi_reply read_capacity_10() const;
+    scsi_reply read_capacity_16(byte_view cdb) const;
+    scsi_reply synchronize();
+
+    scsi_reply vendor(byte_view cdb, byte_view data_out);
+    scsi_reply read_sector(const vendor_command& command);
+    scsi_reply write_sector(const vendor_command& command, byte_view data_out);
+    scsi_reply identify(const vendor_command& command);
+    scsi_reply read_register(const vendor_command& command);
+    scsi_reply rebuild_status(const vendor_command& command) const;
+    scsi_reply warm_boot(const vendor_command& command);
+    scsi_reply flush(const vendor_command& command);
+
+    std::optional<sense_code> address_trouble(const vendor_command& command) const;
+    std::optional<identify_block> identity_at(int port);
+    bool answers(int port) const;
+    port_view look_at(int port);
+
+    bays& disks_;
+    fault_stack& path_;
+    std::string product_;
+    mirror_copy copy_;
+    port_views views_;
+    volume volume_;
+    sense_code last_sense_ = sense::none;
+    bool restart_ = false;
+};
+
+} // namespace enclosure

@@ -1,0 +1,13 @@
+// A desk as JSON for readers.
+#pragma once
+
+#include "enclosure/desk.h"
+
+#include <string>
+
+namespace enclosure {
+
+// The document that 'krenclosure list --json' prints; docs/formats-enclosure.md describes it.
+std::string report(const desk& of);
+
+} // namespace enclosure

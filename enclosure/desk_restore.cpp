@@ -1,0 +1,81 @@
+// A desk as it was left, and pairs of disks in a wanted state.
+#include "enclosure/desk.h"
+#include "enclosure/problem.h"
+
+#include <algorithm>
+
+namespace enclosure {
+
+namespace {
+
+constexpr std::uint64_t stock_sectors = 3'907'029'168; // 2 TB
+constexpr int second_bay = 1;
+
+} // namespace
+
+void desk::restore_disk(const std::string& name, const identify_block& identity) {
+    disks_.emplace(name, std::make_shared<disk>(disk::open(name, identity, image_of(name))));
+}
+
+void desk::restore_next_handle(std::uint32_t next) {
+    next_handle_ = std::max({next_handle_, next, first_handle});
+}
+
+void desk::restore_enclosure(const former_cabinet& former, moment now) {
+    const std::string& name = former.settings.name;
+    auto made = std::make_unique<cabinet>(former.settings);
+    for (int bay = 0; bay < ports; ++bay) {
+        const std::string& in_bay = former.disks[static_cast<std::size_t>(bay)];
+        const auto known = disks_.find(in_bay);
+        const bool twice = bay > 0 && in_bay == former.disks[0];
+        if (known != disks_.end() && !twice && !place_of(in_bay)) {
+            made->insert(bay, known->second);
+        }
+    }
+    made->bridge_chip().copy().set_rate(former.rate, now);
+    made->restore_last_handle(former.last_handle);
+    cabinet& what = *cabinets_.emplace(name, std::move(made)).first->second;
+    watcher_.enclosure_added(name);
+    if (former.plugged) {
+        return_to_bus(what, now, former.copy);
+    }
+}
+
+std::shared_ptr<disk> desk::stocked_disk(const std::string& name) {
+    if (!disks_.contains(name)) {
+        disk_label label;
+        label.model = "Kestrel Example Disk";
+        label.serial = name.substr(name.size() - std::min<std::size_t>(name.size(), 20));
+        label.sectors = stock_sectors;
+        add_disk(name, build_identify(label));
+    }
+    return disks_.at(name);
+}
+
+void desk::arrange(const std::string& enclosure, scenario state) {
+    cabinet& what = cabinet_named(enclosure);
+    if (what.plugged()) {
+        throw problem("enclosure '" + enclosure + "' is plugged in; 'krenclosure unplug " +
+                      enclosure + "' first");
+    }
+    const std::string blank = enclosure + "-new";
+    const auto& second = what.disks().at(second_bay);
+    if (second && second->name() == blank) {
+        pull(enclosure, second_bay);
+    }
+    for (int bay = 0; bay < ports; ++bay) {
+        if (!what.disks().at(bay)) {
+            insert(enclosure, bay, stocked_disk(enclosure + (bay == 0 ? "-a" : "-b"))->name());
+        }
+    }
+    write_records(state, *what.disks().at(0), *what.disks().at(1));
+    if (state == scenario::degraded || state == scenario::broken) {
+        pull(enclosure, second_bay);
+    }
+    if (state == scenario::broken) {
+        erase_record(*stocked_disk(blank));
+        insert(enclosure, second_bay, blank);
+    }
+}
+
+} // namespace enclosure

@@ -1,0 +1,125 @@
+#include "enclosure/enclosure_object.h"
+
+#include "enclosure/option_reader.h"
+
+#include <algorithm>
+
+namespace enclosure {
+
+namespace {
+
+fault_rule rule_from(const bus::options& values) {
+    option_reader reader(values);
+    fault_rule rule;
+    const auto kind = fault_kind_named(reader.take<std::string>("Kind").value_or(""));
+    const auto operation = operation_named(reader.take<std::string>("Operation").value_or(""));
+    if (!kind || !operation) {
+        throw problem("fault: take fail, flip, drop or delay for read, write, flush or identify");
+    }
+    rule.kind = *kind;
+    rule.operation = *operation;
+    if (const auto port = reader.take<std::uint32_t>("Port")) {
+        rule.port = static_cast<int>(std::min<std::uint32_t>(*port, ports));
+    }
+    rule.first_lba = reader.take<std::uint64_t>("FirstLba").value_or(rule.first_lba);
+    rule.last_lba = reader.take<std::uint64_t>("LastLba").value_or(rule.last_lba);
+    rule.nth = reader.take<std::uint32_t>("Nth").value_or(rule.nth);
+    rule.byte = reader.take<std::uint32_t>("Byte").value_or(rule.byte);
+    if (const auto delay = reader.take<std::uint32_t>("Delay")) {
+        rule.delay = std::chrono::milliseconds(*delay);
+    }
+    reader.finish();
+    return rule;
+}
+
+} // namespace
+
+enclosure_object::enclosure_object(service_context& context, std::string name)
+    : context_(context),
+      name_(std::move(name)),
+      object_(sdbus::createObject(context.connection, bus::enclosure_path(name_))) {
+    object_->registerProperty("Name").onInterface(bus::enclosure_interface).withGetter([this] {
+        return name_;
+    });
+    add_bay_methods();
+    add_bus_methods();
+    add_trial_methods();
+    object_->finishRegistration();
+    object_->emitInterfacesAddedSignal({bus::enclosure_interface});
+}
+
+enclosure_object::~enclosure_object() {
+    try {
+        object_->emitInterfacesRemovedSignal({bus::enclosure_interface});
+    } catch (const sdbus::Error&) {
+        // The bus has gone, and everyone who would hear it.
+    }
+}
+
+void enclosure_object::add_bay_methods() {
+    object_->registerMethod("Insert")
+        .onInterface(bus::enclosure_interface)
+        .withInputParamNames("bay", "disk")
+        .implementedAs([this](const std::uint8_t& bay, const std::string& disk) {
+            on_request([&] { context_.on.insert(name_, bay, disk); });
+        });
+    object_->registerMethod("Pull")
+        .onInterface(bus::enclosure_interface)
+        .withInputParamNames("bay")
+        .withOutputParamNames("disk")
+        .implementedAs([this](const std::uint8_t& bay) {
+            return on_request([&] { return context_.on.pull(name_, bay); });
+        });
+}
+
+void enclosure_object::add_bus_methods() {
+    object_->registerMethod("Plug")
+        .onInterface(bus::enclosure_interface)
+        .withOutputParamNames("handle")
+        .implementedAs([this] {
+            return on_request([&] { return context_.on.plug(name_, context_.clock.now()); });
+        });
+    object_->registerMethod("Unplug").onInterface(bus::enclosure_interface).implementedAs([this] {
+        on_request([&] { context_.on.unplug(name_); });
+    });
+    object_->registerMethod("WarmBoot").onInterface(bus::enclosure_interface).implementedAs([this] {
+        on_request([&] { context_.on.warm_boot(name_, context_.clock.now()); });
+    });
+    object_->registerMethod("SetRate")
+        .onInterface(bus::enclosure_interface)
+        .withInputParamNames("bytes_per_second")
+        .implementedAs([this](const std::uint64_t& rate) {
+            on_request([&] { context_.on.set_rate(name_, rate, context_.clock.now()); });
+        });
+}
+
+void enclosure_object::add_trial_methods() {
+    object_->registerMethod("AddFault")
+        .onInterface(bus::enclosure_interface)
+        .withInputParamNames("rule")
+        .implementedAs([this](const bus::options& rule) {
+            on_request([&] { context_.on.add_fault(name_, rule_from(rule)); });
+        });
+    object_->registerMethod("ClearFaults")
+        .onInterface(bus::enclosure_interface)
+        .withOutputParamNames("count")
+        .implementedAs([this] {
+            return on_request(
+                [&] { return static_cast<std::uint32_t>(context_.on.clear_faults(name_)); });
+        });
+    object_->registerMethod("Arrange")
+        .onInterface(bus::enclosure_interface)
+        .withInputParamNames("scenario")
+        .implementedAs([this](const std::string& state) {
+            on_request([&] {
+                const auto wanted = scenario_named(state);
+                if (!wanted) {
+                    throw problem("there is no scenario '" + printable(state) +
+                                  "'; 'krenclosure scenario --help' lists them");
+                }
+                context_.on.arrange(name_, *wanted);
+            });
+        });
+}
+
+} // namespace enclosure

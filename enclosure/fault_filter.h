@@ -1,0 +1,35 @@
+// One fault between the chip and the disks.
+#pragma once
+
+#include "enclosure/disk_io.h"
+#include "enclosure/fault_rule.h"
+
+#include <memory>
+
+namespace enclosure {
+
+// Hands requests on to the next link and strikes those that its rule is about.
+class fault_filter : public disk_io {
+public:
+    fault_filter(const fault_rule& rule, disk_io& next) : rule_(rule), next_(&next) {}
+
+    bool perform(const io_request& request) final;
+
+    const fault_rule& rule() const { return rule_; }
+
+protected:
+    // A request that the rule is about.
+    virtual bool strike(const io_request& request) = 0;
+
+    bool hand_on(const io_request& request) { return next_->perform(request); }
+
+private:
+    fault_rule rule_;
+    disk_io* next_;
+    std::uint64_t seen_ = 0;
+};
+
+// The filter for a rule. A delaying one adds to `delay`, which must outlive it.
+std::unique_ptr<fault_filter> make_filter(const fault_rule& rule, disk_io& next, moment& delay);
+
+} // namespace enclosure

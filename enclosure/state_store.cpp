@@ -1,0 +1,218 @@
+#include "enclosure/state_store.h"
+
+#include "enclosure/names.h"
+#include "enclosure/problem.h"
+#include "enclosure/state_json.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+#include <vector>
+
+namespace enclosure {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::streamsize longest_file = 65536; // bytes
+
+std::string reason() {
+    return std::generic_category().message(errno);
+}
+
+void make_folder(const fs::path& folder) {
+    std::error_code trouble;
+    fs::create_directories(folder, trouble);
+    if (trouble) {
+        throw problem("cannot make folder " + folder.string() + ": " + trouble.message() +
+                      "; make it or set XDG_DATA_HOME");
+    }
+}
+
+file_handle take(const fs::path& file) {
+    file_handle lock(::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+    if (!lock) {
+        throw problem("cannot write " + file.string() + ": " + reason() +
+                      "; make its folder writable");
+    }
+    if (::flock(lock.get(), LOCK_EX | LOCK_NB) != 0) {
+        throw problem("another krenclosured uses " + file.parent_path().string() +
+                      "; end it or set XDG_DATA_HOME");
+    }
+    return lock;
+}
+
+std::string content_of(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    std::string text(static_cast<std::size_t>(longest_file) + 1, '\0');
+    stream.read(text.data(), longest_file + 1);
+    if (stream.bad() || stream.gcount() == 0 || stream.gcount() > longest_file) {
+        throw problem("it is empty, too long or cannot be read");
+    }
+    text.resize(static_cast<std::size_t>(stream.gcount()));
+    return text;
+}
+
+bool write_whole(const file_handle& file, const std::string& text) {
+    std::size_t done = 0;
+    while (done < text.size()) {
+        const ssize_t now = ::write(file.get(), text.data() + done, text.size() - done);
+        if (now < 0 && errno != EINTR) {
+            return false;
+        }
+        done += static_cast<std::size_t>(std::max<ssize_t>(now, 0));
+    }
+    return true;
+}
+
+// A renamed or removed file stays so after a crash only when its folder is on the disk too.
+bool sync_folder(const fs::path& folder) {
+    const file_handle handle(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return handle && ::fsync(handle.get()) == 0;
+}
+
+bool replace(const fs::path& file, const std::string& text) {
+    const fs::path fresh = file.parent_path() / ("." + file.filename().string() + ".new");
+    const file_handle handle(
+        ::open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600));
+    return handle && write_whole(handle, text) && ::fsync(handle.get()) == 0 &&
+           ::rename(fresh.c_str(), file.c_str()) == 0 && sync_folder(file.parent_path());
+}
+
+} // namespace
+
+state_store::state_store(fs::path folder, reporter report)
+    : folder_(std::move(folder)), report_(std::move(report)) {
+    make_folder(folder_ / "enclosures");
+    make_folder(folder_ / "disks");
+    lock_ = take(folder_ / "lock");
+}
+
+fs::path state_store::enclosure_file(const std::string& name) const {
+    return folder_ / "enclosures" / (name + ".json");
+}
+
+fs::path state_store::disk_file(const std::string& name) const {
+    return folder_ / "disks" / (name + ".json");
+}
+
+template<class Reader> bool state_store::read_one(const fs::path& file, Reader reader) const {
+    try {
+        reader(content_of(file));
+        return true;
+    } catch (const problem& trouble) {
+        set_aside(file, trouble.what());
+        return false;
+    }
+}
+
+template<class Reader> void state_store::read_each(const fs::path& subfolder, Reader reader) const {
+    std::vector<fs::path> files;
+    std::error_code trouble;
+    for (fs::directory_iterator at(subfolder, trouble), end; !trouble && at != end;
+         at.increment(trouble)) {
+        if (at->path().extension() == ".json" && is_name(at->path().stem().string())) {
+            files.push_back(at->path());
+        }
+    }
+    if (trouble) {
+        report_("cannot list " + subfolder.string() + ": " + trouble.message());
+    }
+    std::sort(files.begin(), files.end());
+    for (const fs::path& file : files) {
+        read_one(file, [&](const std::string& text) { reader(file.stem().string(), text); });
+    }
+}
+
+void state_store::set_aside(const fs::path& file, const std::string& why) const {
+    fs::path aside = file.string() + ".unreadable";
+    for (int i = 2; fs::exists(aside); ++i) {
+        aside = file.string() + ".unreadable-" + std::to_string(i);
+    }
+    std::error_code trouble;
+    fs::rename(file, aside, trouble);
+    report_("cannot use " + file.string() + ": " + why +
+            (trouble ? "; remove it" : "; kept as " + aside.filename().string()));
+}
+
+void state_store::load(desk& to, moment now) {
+    read_each(folder_ / "disks", [&](const std::string& name, const std::string& text) {
+        to.restore_disk(name, disk_from_json(text));
+        if (const std::string& missing = to.disks().at(name)->missing(); !missing.empty()) {
+            report_("disk '" + name + "' counts as absent: " + missing);
+        }
+    });
+    std::vector<desk::former_cabinet> former;
+    read_each(folder_ / "enclosures", [&](const std::string& name, const std::string& text) {
+        former.push_back(enclosure_from_json(text, name));
+    });
+    const fs::path counter = folder_ / "handles.json";
+    if (fs::exists(counter)) {
+        read_one(counter, [&](const std::string& text) {
+            to.restore_next_handle(next_handle_from_json(text));
+        });
+    }
+    // Should the counter be lost, what is known to have been used stays used.
+    for (const desk::former_cabinet& one : former) {
+        to.restore_next_handle(one.last_handle + 1);
+    }
+    for (const desk::former_cabinet& one : former) {
+        to.restore_enclosure(one, now);
+    }
+}
+
+void state_store::write(const fs::path& file, const std::string& text) const {
+    if (!replace(file, text)) {
+        report_("cannot write " + file.string() + ": " + reason() +
+                "; this change lasts until the service ends");
+    }
+}
+
+void state_store::remove(const fs::path& file) const {
+    if ((::unlink(file.c_str()) != 0 && errno != ENOENT) || !sync_folder(file.parent_path())) {
+        report_("cannot remove " + file.string() + ": " + reason() + "; remove it by hand");
+    }
+}
+
+void state_store::save_enclosure(const cabinet& what) {
+    write(enclosure_file(what.settings().name), enclosure_to_json(what));
+}
+
+void state_store::remove_enclosure(const std::string& name) {
+    remove(enclosure_file(name));
+}
+
+void state_store::save_disk(const disk& which) {
+    write(disk_file(which.name()), disk_to_json(which));
+}
+
+void state_store::remove_disk(const std::string& name) {
+    remove(disk_file(name));
+}
+
+void state_store::save_next_handle(std::uint32_t next) {
+    write(folder_ / "handles.json", next_handle_to_json(next));
+}
+
+fs::path usual_state_folder() {
+    const char* const data = std::getenv("XDG_DATA_HOME"); // NOLINT(concurrency-mt-unsafe): start
+    if (data != nullptr && fs::path(data).is_absolute()) {
+        return fs::path(data) / "kestrelraid";
+    }
+    const char* const home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe): start
+    if (home == nullptr || !fs::path(home).is_absolute()) {
+        throw problem("no place for the enclosures: neither XDG_DATA_HOME nor HOME is an absolute "
+                      "path; set one");
+    }
+    return fs::path(home) / ".local" / "share" / "kestrelraid";
+}
+
+} // namespace enclosure

@@ -1,0 +1,126 @@
+#include "enclosure/volume.h"
+
+#include <algorithm>
+
+namespace enclosure {
+
+namespace {
+
+constexpr std::uint64_t reserved_at_end = 16; // sectors of each disk
+
+bool in_array(const port_view& view) {
+    return view.present && view.record && view.record->kind != array_kind::none;
+}
+
+bool names(const port_view& view, const port_view& partner) {
+    return partner.present && view.record->partner == partner.identity;
+}
+
+volume mirror_of_both(const array_record& a, const array_record& b) {
+    volume made{array_kind::mirror, volume_state::in_order, std::min(a.sectors, b.sectors)};
+    if (a.copy_source != b.copy_source) {
+        made.state = volume_state::copying;
+    } else if (a.stamp != b.stamp) {
+        made.state = volume_state::diverged;
+        made.sectors = a.stamp > b.stamp ? a.sectors : b.sectors;
+    }
+    return made;
+}
+
+volume of_two_members(const port_view& a, const port_view& b) {
+    const array_kind kind = a.record->kind;
+    if (kind != b.record->kind) {
+        return {array_kind::none, volume_state::broken, 0};
+    }
+    if (kind == array_kind::mirror) {
+        return mirror_of_both(*a.record, *b.record);
+    }
+    if (!names(a, b) || !names(b, a)) {
+        return {kind, volume_state::broken, 0};
+    }
+    return {kind, volume_state::in_order, std::min(a.record->sectors, b.record->sectors)};
+}
+
+volume of_one_member(const port_view& member) {
+    const array_record& record = *member.record;
+    if (record.kind == array_kind::mirror) {
+        return {record.kind, volume_state::degraded, record.sectors};
+    }
+    return {record.kind, volume_state::broken, 0};
+}
+
+volume of_plain_disks(const port_views& views) {
+    for (const port_view& view : views) {
+        if (view.present) {
+            return {array_kind::none, volume_state::plain, view.sectors};
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+volume decide_volume(const port_views& views) {
+    const bool first = in_array(views[0]);
+    const bool second = in_array(views[1]);
+    if (first && second) {
+        return of_two_members(views[0], views[1]);
+    }
+    if (first || second) {
+        return of_one_member(views[first ? 0 : 1]);
+    }
+    return of_plain_disks(views);
+}
+
+std::optional<copy_order> decide_copy(const port_views& views) {
+    if (!views[0].is(array_kind::mirror) || !views[1].is(array_kind::mirror) ||
+        views[0].record->copy_source == views[1].record->copy_source) {
+        return std::nullopt;
+    }
+    const std::size_t source = views[0].record->copy_source ? 0 : 1;
+    const std::uint64_t smaller = std::min(views[0].sectors, views[1].sectors);
+    if (smaller <= reserved_at_end) {
+        return std::nullopt;
+    }
+    const std::uint64_t area = std::min(views[source].record->sectors, smaller - reserved_at_end);
+    if (area == 0) {
+        return std::nullopt;
+    }
+    return copy_order{static_cast<int>(source), area};
+}
+
+std::string_view name_of(array_kind kind) {
+    switch (kind) {
+    case array_kind::stripe:
+        return "RAID 0";
+    case array_kind::mirror:
+        return "RAID 1";
+    case array_kind::span:
+        return "span";
+    case array_kind::none:
+        break;
+    }
+    return "none";
+}
+
+std::string_view name_of(volume_state state) {
+    switch (state) {
+    case volume_state::plain:
+        return "plain";
+    case volume_state::in_order:
+        return "in order";
+    case volume_state::copying:
+        return "copying";
+    case volume_state::degraded:
+        return "degraded";
+    case volume_state::diverged:
+        return "diverged";
+    case volume_state::broken:
+        return "broken";
+    case volume_state::no_disk:
+        break;
+    }
+    return "no disk";
+}
+
+} // namespace enclosure

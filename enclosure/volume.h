@@ -1,0 +1,59 @@
+// Which volume the chip makes of its two disks.
+#pragma once
+
+#include "enclosure/metadata.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace enclosure {
+
+// A port as the chip knows it.
+struct port_view {
+    bool present = false;
+    std::uint64_t sectors = 0;
+    raw_identity identity;
+    std::optional<array_record> record;
+
+    bool is(array_kind kind) const { return present && record && record->kind == kind; }
+};
+
+using port_views = std::array<port_view, ports>;
+
+enum class volume_state {
+    no_disk,  // nothing to present
+    plain,    // a disk that is in no array
+    in_order, // array with both members
+    copying,  // mirror with one member to be copied to the other
+    degraded, // mirror with one member
+    diverged, // mirror whose members were written at different times
+    broken,   // stripe or span without its partner, or two arrays' members
+};
+
+struct volume {
+    array_kind kind = array_kind::none;
+    volume_state state = volume_state::no_disk;
+    std::uint64_t sectors = 0; // presented to the host; 0: not ready
+
+    bool operator==(const volume&) const = default;
+};
+
+volume decide_volume(const port_views& views);
+
+// The copy that the metadata ask for: from the only marked member of a mirror to the other.
+struct copy_order {
+    int source = 0;
+    std::uint64_t sectors = 0; // from 0 on, short of either disk's last 16
+
+    bool operator==(const copy_order&) const = default;
+};
+
+// Nothing when no copy is asked for or there is nothing to copy.
+std::optional<copy_order> decide_copy(const port_views& views);
+
+// "RAID 1", "in order" and the like.
+std::string_view name_of(array_kind kind);
+std::string_view name_of(volume_state state);
+
+} // namespace enclosure
