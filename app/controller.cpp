@@ -1,0 +1,163 @@
+// Start-up, shutdown and what all of the controller stands on.
+#include "app/controller.h"
+
+#include <QPushButton>
+#include <QTreeView>
+#include <utility>
+
+#include "app/controller_box.h"
+#include "app/krview.h"
+#include "app/main_window.h"
+#include "app/radio_matrix.h"
+#include "app/tree_model.h"
+#include "app/treeview.h"
+#include "app/ui_bridge.h"
+#include "app/window_contents.h"
+#include "app/window_extras.h"
+#include "model/exit_gate.h"
+#include "model/krtool.h"
+#include "model/rescan.h"
+
+namespace {
+
+constexpr int status_fatal = 3;
+
+} // namespace
+
+controller::controller(const window_parts& parts)
+    : extras(std::make_unique<window_extras>()),
+      bridge_(parts.bridge),
+      system_(parts.system),
+      tree_data_(parts.tree),
+      runner_(parts.bridge, guard_, parts.workers, [this] { obey_remembered_exit(); }),
+      own_panels_(guard_),
+      panels_(parts.panels != nullptr ? *parts.panels : own_panels_),
+      tree_model_(std::make_unique<tree_model>()) {
+    build_window_contents(*this);
+    own_panels_.show_over(mainview);
+    guard_.always_serve(minimizebutton, true);
+    guard_.always_serve(closebutton, false);
+    tabview->set_delegate(
+        [this](const tab_item& item) { return tab_gate_.shouldSelectTabViewItem(item); });
+    connect_actions();
+}
+
+controller::~controller() {
+    delete (mainwindow != nullptr ? static_cast<QWidget*>(mainwindow) : mainview);
+}
+
+void controller::awakeFromNib() {
+    mainview->awakeFromNib();
+    cleargui();
+    setGUIStrings();
+    controllerselectbox->set_delegate([this] {
+        if (idle()) {
+            comboBoxSelectionDidChange();
+        }
+    });
+    raidconfigradiobutton->set_delegate([this] {
+        if (idle()) {
+            radio_changed();
+        }
+    });
+    configuretab->identifier = 0;
+    rebuildtab->identifier = tabviewdel::rebuild_identifier;
+}
+
+void controller::applicationDidFinishLaunching() {
+    create_window();
+    ctrller = this;
+    if (!j.with.threads.start([] { start_device_notification(nullptr); })) {
+        show_error_and_exit("Error creating device notification thread");
+        return;
+    }
+    tree->setModel(tree_model_.get());
+    load_dialog_words();
+}
+
+void controller::create_window() {
+    constexpr int left = 100;
+    constexpr int bottom = 100;
+    mainwindow = new main_window([this] { close_wanted(); });
+    mainwindow->setObjectName(QStringLiteral("mainwindow"));
+    mainwindow->setWindowTitle(QStringLiteral("Kestrel RAID"));
+    mainview->setParent(mainwindow);
+    mainview->setGeometry(mainwindow->rect());
+    mainview->show();
+    mainview->setFocus();
+    mainwindow->place_from_bottom_left(left, bottom);
+    mainwindow->show();
+    mainwindow->raise();
+    mainwindow->activateWindow();
+}
+
+void controller::load_dialog_words() {
+    s_ok = localised("ok");
+    s_cancel = localised("cancel");
+    s_warning = localised("warning");
+    s_error = localised("error");
+    s_attention = localised("attention");
+}
+
+bool controller::check_OS_version() {
+    return is_10_6_or_later(system_);
+}
+
+void controller::exitprogram() {
+    if (guard_.working()) {
+        exit_remembered_ = true;
+        return;
+    }
+    j.with.exit.leave(0);
+}
+
+// An open panel is closed first; whoever opened it then goes its way.
+void controller::close_wanted() {
+    if (guard_.topmost_panel() == nullptr) {
+        exitprogram();
+        return;
+    }
+    exit_remembered_ = true;
+    dismiss_topmost_panel(guard_);
+}
+
+void controller::obey_remembered_exit() {
+    if (exit_remembered_ && !guard_.working()) {
+        exit_remembered_ = false;
+        j.with.exit.leave(0);
+    }
+}
+
+void controller::show_error_and_exit(const std::string& /*message*/) {
+    ui([this] {
+        ask(panel_kind::error, localised("error"), localised("error"));
+        j.with.exit.leave(status_fatal);
+    });
+}
+
+void controller::ui(const std::function<void()>& step) {
+    bridge_.run(step);
+}
+
+void controller::as_body(const std::function<void()>& body) {
+    if (!runner_.run(body)) {
+        show_error_and_exit("Error creating worker thread");
+    }
+}
+
+int controller::ask(panel_kind kind, const std::string& title, const std::string& message) {
+    // Panels may come before the dialog words have been loaded.
+    const std::string ok = s_ok.empty() ? localised("ok") : s_ok;
+    return panels_.ask({kind, title, message, {ok}});
+}
+
+void controller::inform(const std::string& title, const std::string& message) {
+    ui([&] {
+        ask(panel_kind::attention, title, message);
+        obey_remembered_exit();
+    });
+}
+
+std::string controller::localised(const char* key) const {
+    return j.with.texts.text(key);
+}

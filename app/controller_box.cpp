@@ -1,0 +1,80 @@
+#include "app/controller_box.h"
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <QWheelEvent>
+#include <utility>
+
+controller_box::controller_box(QWidget* parent) : QComboBox(parent) {
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    setCompleter(nullptr);
+    lineEdit()->setReadOnly(true);
+    lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+    lineEdit()->setAttribute(Qt::WA_TransparentForMouseEvents);
+    view()->setTextElideMode(Qt::ElideMiddle);
+    connect(this, &QComboBox::activated, this, [this](int) {
+        lineEdit()->setCursorPosition(0);
+        setToolTip(currentText().toHtmlEscaped());
+        if (chosen_) {
+            chosen_();
+        }
+    });
+}
+
+void controller_box::set_delegate(std::function<void()> chosen) {
+    chosen_ = std::move(chosen);
+}
+
+void controller_box::remove_all() {
+    const QString text = currentText();
+    const QSignalBlocker quiet(this);
+    clear();
+    identities_.clear();
+    set_text(text);
+}
+
+void controller_box::add_entry(const QString& text, const controller_t& identity) {
+    const QString shown = currentText();
+    const int selected = currentIndex();
+    const QSignalBlocker quiet(this);
+    addItem(text);
+    identities_.push_back(identity);
+    setCurrentIndex(selected); // the first entry would select itself
+    set_text(shown);
+}
+
+void controller_box::set_text(const QString& text) {
+    setEditText(text);
+    lineEdit()->setCursorPosition(0);
+    setToolTip(text.toHtmlEscaped());
+}
+
+void controller_box::select(int entry) {
+    const QSignalBlocker quiet(this);
+    setCurrentIndex(entry);
+    set_text(itemText(entry));
+}
+
+const controller_t& controller_box::identity(int entry) const {
+    return identities_[static_cast<std::size_t>(entry)];
+}
+
+// A wheel turned over the box must not switch bridges.
+void controller_box::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+// Anywhere in the box is as good as its arrow.
+void controller_box::mousePressEvent(QMouseEvent* event) {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect arrow =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this);
+    QMouseEvent on_arrow(event->type(), arrow.center(), event->globalPosition(), event->button(),
+                         event->buttons(), event->modifiers(), event->pointingDevice());
+    QComboBox::mousePressEvent(&on_arrow);
+}

@@ -1,0 +1,35 @@
+// The controller selection box.
+#pragma once
+
+#include <QComboBox>
+#include <functional>
+#include <vector>
+
+#include "util/library.h"
+
+// Its text is not its selection: the text outlives the entries. Nothing is ever selected but by
+// the user or by select(). Interface thread.
+class controller_box final : public QComboBox {
+public:
+    explicit controller_box(QWidget* parent);
+
+    // Is called when the user has chosen an entry.
+    void set_delegate(std::function<void()> chosen);
+    void remove_all();
+    // Each entry remembers whom it stands for.
+    void add_entry(const QString& text, const controller_t& identity);
+    // What stands in the box; no entry is touched.
+    void set_text(const QString& text);
+    // Selects without telling the delegate.
+    void select(int entry);
+    // Of an entry that is there.
+    const controller_t& identity(int entry) const;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    std::vector<controller_t> identities_;
+    std::function<void()> chosen_;
+};

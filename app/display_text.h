@@ -1,0 +1,8 @@
+// Text of devices made showable.
+#pragma once
+
+#include <string>
+
+// The bytes up to the first zero byte, each taken as the Latin-1 character of that number, in
+// UTF-8. Disks and bridges may supply any bytes. Any thread.
+std::string device_text(const std::string& bytes);

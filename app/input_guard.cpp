@@ -1,0 +1,108 @@
+#include "app/input_guard.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QWidget>
+#include <algorithm>
+
+namespace {
+
+bool is_input(QEvent::Type type) {
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+    case QEvent::NativeGesture:
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The widget that an event is about; none for windows, which hand it on to a widget.
+const QWidget* widget_of(const QObject* receiver) {
+    while (receiver != nullptr && !receiver->isWidgetType()) {
+        receiver = receiver->isWindowType() ? nullptr : receiver->parent();
+    }
+    return static_cast<const QWidget*>(receiver);
+}
+
+// An open list of choices would keep the input to itself.
+void close_popups() {
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        popup->close();
+    }
+}
+
+bool inside(const QWidget* widget, const QWidget* area) {
+    return area != nullptr && (widget == area || area->isAncestorOf(widget));
+}
+
+} // namespace
+
+input_guard::input_guard() {
+    qApp->installEventFilter(this);
+}
+
+void input_guard::always_serve(QWidget* widget, bool behind_panels) {
+    always_.push_back({widget, behind_panels});
+}
+
+void input_guard::begin_work() {
+    close_popups();
+    ++works_;
+}
+
+void input_guard::end_work() {
+    --works_;
+}
+
+void input_guard::open_panel(QWidget* panel) {
+    close_popups();
+    panels_.emplace_back(panel);
+    for (const served& one : always_) {
+        if (one.behind_panels && one.widget) {
+            one.widget->raise();
+        }
+    }
+}
+
+void input_guard::close_panel(QWidget* panel) {
+    panels_.erase(std::remove(panels_.begin(), panels_.end(), panel), panels_.end());
+}
+
+QWidget* input_guard::topmost_panel() const {
+    return panels_.empty() ? nullptr : panels_.back().data();
+}
+
+bool input_guard::eventFilter(QObject* receiver, QEvent* event) {
+    if (idle() || !is_input(event->type())) {
+        return false;
+    }
+    const QWidget* widget = widget_of(receiver);
+    return widget != nullptr && !serves(widget);
+}
+
+bool input_guard::serves(const QWidget* widget) const {
+    const bool panel_open = !panels_.empty();
+    const bool always = std::any_of(always_.begin(), always_.end(), [&](const served& one) {
+        return one.widget == widget && (one.behind_panels || !panel_open);
+    });
+    return always || inside(widget, topmost_panel());
+}

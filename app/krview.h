@@ -1,0 +1,24 @@
+// The background view.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+// Paints the window's picture; what is no control on it moves the window. Interface thread.
+class krview final : public QWidget {
+public:
+    explicit krview(QWidget* parent = nullptr) : QWidget(parent) {}
+
+    void awakeFromNib();
+    // Stretches the picture over the whole view, replacing what is below.
+    void drawRect();
+    // For a picture other than the program's own.
+    void set_back(const QPixmap& picture);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    QPixmap back;
+};

@@ -1,0 +1,75 @@
+// The program: the one place that names concrete parts.
+#include <QApplication>
+#include <QIcon>
+#include <QLocale>
+#include <QTranslator>
+#include <csignal>
+#include <memory>
+
+#include "app/controller.h"
+#include "app/display.h"
+#include "app/look.h"
+#include "app/string_table.h"
+#include "app/system_version.h"
+#include "app/treeview.h"
+#include "app/ui_bridge.h"
+#include "device/emulated_registry.h"
+#include "device/linked_library.h"
+#include "model/exit_gate.h"
+#include "model/krtool.h"
+#include "model/system_services.h"
+#include "util/print.h"
+
+namespace {
+
+linked_library library;
+emulated_registry registry;
+steady_pauses sleeper;
+system_clock wall;
+detached_threads threads;
+system_log console;
+string_table texts;
+exit_gate way_out;
+desktop_version version;
+
+} // namespace
+
+krtool j(std::make_unique<treeview>(texts),
+         {library, registry, registry, sleeper, wall, threads, console, texts, way_out});
+window* ctrller = nullptr;
+
+namespace {
+
+// The program leaves from here with every thread still alive.
+int run(QApplication& application) {
+    QTranslator translator;
+    install_language(translator, language_for(QLocale::system().uiLanguages()));
+    texts.load(translated);
+    ui_bridge bridge;
+    controller window({bridge, threads, version, static_cast<const treeview&>(*j.tree)});
+    window.awakeFromNib();
+    window.applicationDidFinishLaunching();
+    const int status = application.exec();
+    way_out.leave(status);
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    std::signal(SIGPIPE, SIG_IGN);
+    if (!display_at_hand(argc, argv)) {
+        print_err("kestrelraid: no display: set DISPLAY or WAYLAND_DISPLAY, or start scripts/run, "
+                  "which brings a virtual one\n");
+        return 1;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kestrelraid"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Kestrel RAID"));
+    QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("org.kestrelraid.KestrelRaid"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kestrelraid.png")));
+    QApplication::setQuitOnLastWindowClosed(false);
+    apply_look(application);
+    return run(application);
+}

@@ -1,0 +1,22 @@
+#include "app/main_window.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <utility>
+
+main_window::main_window(std::function<void()> close_wanted)
+    : close_wanted_(std::move(close_wanted)) {
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setFixedSize(width_of_content, height_of_content);
+}
+
+void main_window::place_from_bottom_left(int x, int y) {
+    const QRect area = screen()->geometry();
+    move(area.left() + x, area.bottom() + 1 - y - height());
+}
+
+void main_window::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    close_wanted_();
+}

@@ -1,0 +1,25 @@
+// The main window's frame.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+// Borderless and of fixed size; it draws nothing itself. Interface thread.
+class main_window final : public QWidget {
+public:
+    static constexpr int width_of_content = 800;
+    static constexpr int height_of_content = 630;
+
+    // `close_wanted` is called when the desktop asks for the window to be closed.
+    explicit main_window(std::function<void()> close_wanted);
+
+    // Its lower left corner at that distance from the screen's, where the desktop lets a program
+    // choose.
+    void place_from_bottom_left(int x, int y);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    const std::function<void()> close_wanted_;
+};

@@ -1,0 +1,178 @@
+#include "app/panel.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEventLoop>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/input_guard.h"
+#include "app/plain_text.h"
+
+namespace {
+
+constexpr int panel_width = 520;
+constexpr int panel_least_height = 196;
+constexpr int margin = 28;
+constexpr int icon_size = 32;
+constexpr int button_width = 112;
+constexpr int button_height = 38;
+
+const char* icon_of(panel_kind kind) {
+    switch (kind) {
+    case panel_kind::warning:
+        return ":/status-warn.png";
+    case panel_kind::error:
+        return ":/status-error.png";
+    case panel_kind::attention:
+        break;
+    }
+    return ":/status-info.png";
+}
+
+QLabel* plain_label(const QString& text, const char* role) {
+    auto* label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setProperty("role", role);
+    label->setWordWrap(true);
+    label->setText(text);
+    return label;
+}
+
+// A dialog inside the window: the keys go round its own buttons only.
+class panel_dialog final : public QDialog {
+public:
+    panel_dialog(QWidget* parent, const panel_request& request);
+
+    // 1 or 0, once it has been answered.
+    int answer() const {
+        return two_buttons_ && result() != Accepted ? panel_second : panel_default;
+    }
+
+protected:
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    QHBoxLayout* make_head(const panel_request& request);
+    QHBoxLayout* make_buttons(const panel_request& request);
+    QPushButton* make_button(const std::string& text, const char* name);
+
+    const bool two_buttons_;
+    QList<QPushButton*> buttons_; // in the order of the tab key
+};
+
+panel_dialog::panel_dialog(QWidget* parent, const panel_request& request)
+    : QDialog(parent), two_buttons_(request.buttons.size() > 1) {
+    setWindowFlags(Qt::Widget);
+    setObjectName(QStringLiteral("panel"));
+    setAccessibleName(one_line(request.title));
+    setAccessibleDescription(one_line(request.message));
+    auto* frame = new QFrame;
+    frame->setProperty("role", "panel");
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(frame);
+    auto* inner = new QVBoxLayout(frame);
+    inner->setContentsMargins(margin, margin, margin, margin);
+    inner->addLayout(make_head(request));
+    inner->addStretch();
+    inner->addLayout(make_buttons(request));
+    setFixedWidth(panel_width);
+    setFixedHeight(qMax(panel_least_height, outer->heightForWidth(panel_width)));
+}
+
+QHBoxLayout* panel_dialog::make_head(const panel_request& request) {
+    auto* icon = new QLabel;
+    icon->setPixmap(QIcon(icon_of(request.kind)).pixmap(icon_size));
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(6);
+    texts->addWidget(plain_label(one_line(request.title), "title"));
+    texts->addWidget(plain_label(plain_lines(request.message), "message"));
+    auto* head = new QHBoxLayout;
+    head->setSpacing(20);
+    head->addWidget(icon, 0, Qt::AlignTop);
+    head->addLayout(texts, 1);
+    return head;
+}
+
+QHBoxLayout* panel_dialog::make_buttons(const panel_request& request) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(12);
+    row->addStretch();
+    if (two_buttons_) {
+        QPushButton* second = make_button(request.buttons[1], "panel_second_button");
+        connect(second, &QPushButton::clicked, this, &QDialog::reject);
+        row->addWidget(second);
+    }
+    QPushButton* first = make_button(request.buttons.front(), "panel_default_button");
+    first->setDefault(true);
+    first->setProperty("kind", two_buttons_ ? "destructive" : "");
+    connect(first, &QPushButton::clicked, this, &QDialog::accept);
+    row->addWidget(first);
+    first->setFocus(Qt::OtherFocusReason);
+    return row;
+}
+
+QPushButton* panel_dialog::make_button(const std::string& text, const char* name) {
+    auto* button = new QPushButton(button_text(text));
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(one_line(text));
+    button->setAccessibleDescription(QLatin1String(name));
+    button->setMinimumSize(button_width, button_height);
+    button->setAutoDefault(false);
+    buttons_.append(button);
+    return button;
+}
+
+bool panel_dialog::focusNextPrevChild(bool next) {
+    const auto at = buttons_.indexOf(qobject_cast<QPushButton*>(focusWidget()));
+    const auto count = buttons_.size();
+    const auto step = next ? 1 : count - 1;
+    buttons_[(at + step + count) % count]->setFocus(next ? Qt::TabFocusReason
+                                                         : Qt::BacktabFocusReason);
+    return true;
+}
+
+} // namespace
+
+int run_panel(QWidget* window, input_guard& guard, const panel_request& request) {
+    if (window == nullptr || request.buttons.empty()) {
+        return panel_failed;
+    }
+    const QPointer<QWidget> focused = QApplication::focusWidget();
+    QFrame scrim(window);
+    scrim.setProperty("role", "scrim");
+    scrim.setGeometry(window->rect());
+    panel_dialog panel(&scrim, request);
+    panel.move((window->width() - panel.width()) / 2, (window->height() - panel.height()) / 2);
+
+    scrim.show();
+    scrim.raise();
+    panel.show();
+    guard.open_panel(&panel);
+    panel.setFocus();
+    QApplication::alert(window);
+    QEventLoop loop;
+    QObject::connect(&panel, &QDialog::finished, &loop, &QEventLoop::quit);
+    loop.exec();
+    guard.close_panel(&panel);
+    if (focused) {
+        focused->setFocus();
+    }
+    return panel.answer();
+}
+
+void dismiss_topmost_panel(const input_guard& guard) {
+    if (auto* panel = qobject_cast<QDialog*>(guard.topmost_panel()); panel != nullptr) {
+        panel->reject();
+    }
+}
+
+int window_panels::ask(const panel_request& request) {
+    return run_panel(window_, guard_, request);
+}

@@ -1,0 +1,110 @@
+#include "app/radio_matrix.h"
+
+#include <QEvent>
+#include <QFrame>
+#include <QIcon>
+#include <QLabel>
+#include <QRadioButton>
+#include <QStyle>
+#include <array>
+#include <utility>
+
+#include "app/text_field.h"
+
+namespace {
+
+constexpr int row_height = 46;
+constexpr int row_distance = 49;
+constexpr int row_width = 384;
+constexpr std::array<const char*, radio_matrix::rows> glyphs = {
+    ":/mode-raid0.png", ":/mode-raid1.png", ":/mode-span.png", ":/mode-none.png"};
+
+} // namespace
+
+radio_matrix::radio_matrix(QWidget* parent) : QWidget(parent) {
+    for (int row = 0; row < rows; ++row) {
+        rows_.push_back(make_row(row));
+        group_.addButton(rows_.back().button, row);
+    }
+    connect(&group_, &QButtonGroup::idClicked, this, [this](int) {
+        if (chosen_) {
+            chosen_();
+        }
+    });
+    connect(&group_, &QButtonGroup::idToggled, this, [this](int, bool) { show_choice(); });
+    select_row(0);
+}
+
+void radio_matrix::set_delegate(std::function<void()> chosen) {
+    chosen_ = std::move(chosen);
+}
+
+void radio_matrix::set_row_text(int row, const QString& name, const QString& meaning) {
+    const row_widgets& widgets = rows_[static_cast<std::size_t>(row)];
+    widgets.name->set_value(name);
+    widgets.meaning->set_value(meaning);
+    widgets.button->setAccessibleName(name);
+    widgets.button->setAccessibleDescription(meaning);
+}
+
+int radio_matrix::selected_row() const {
+    return group_.checkedId();
+}
+
+void radio_matrix::click_row(int row) {
+    group_.button(row)->click();
+}
+
+void radio_matrix::select_row(int row) {
+    if (row >= 0) {
+        group_.button(row)->setChecked(true);
+        return;
+    }
+    group_.setExclusive(false);
+    for (QAbstractButton* button : group_.buttons()) {
+        button->setChecked(false);
+    }
+    group_.setExclusive(true);
+}
+
+// The whole row is the target.
+bool radio_matrix::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease) {
+        for (const row_widgets& row : rows_) {
+            if (receiver == row.frame) {
+                row.button->setFocus(Qt::MouseFocusReason);
+                row.button->click();
+                return true;
+            }
+        }
+    }
+    return event->type() == QEvent::MouseButtonPress;
+}
+
+radio_matrix::row_widgets radio_matrix::make_row(int row) {
+    auto* frame = new QFrame(this);
+    frame->setProperty("role", "radiorow");
+    frame->setGeometry(0, row_distance * row, row_width, row_height);
+    frame->installEventFilter(this);
+    auto* button = new QRadioButton(frame);
+    button->setObjectName(QStringLiteral("raidconfigradiobutton_row%1").arg(row));
+    button->setGeometry(10, 14, 18, 18);
+    auto* glyph = new QLabel(frame);
+    glyph->setPixmap(QIcon(QLatin1String(glyphs[static_cast<std::size_t>(row)])).pixmap(40, 24));
+    glyph->setGeometry(40, 11, 40, 24);
+    auto* name = new text_field(frame);
+    name->setProperty("role", "rowname");
+    name->setGeometry(90, 4, 290, 20);
+    auto* meaning = new text_field(frame);
+    meaning->setProperty("role", "small");
+    meaning->setGeometry(90, 24, 292, 16);
+    return {frame, button, name, meaning};
+}
+
+void radio_matrix::show_choice() {
+    for (const row_widgets& row : rows_) {
+        row.frame->setProperty("chosen", row.button->isChecked());
+        row.frame->style()->unpolish(row.frame);
+        row.frame->style()->polish(row.frame);
+    }
+}

@@ -1,0 +1,48 @@
+// The choice of the array to create.
+#pragma once
+
+#include <QButtonGroup>
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+class QFrame;
+class QLabel;
+class QRadioButton;
+class text_field;
+
+// Four rows, one of them chosen; the first at the start. Interface thread.
+class radio_matrix final : public QWidget {
+public:
+    static constexpr int rows = 4;
+
+    explicit radio_matrix(QWidget* parent);
+
+    // Is called when the user has chosen a row.
+    void set_delegate(std::function<void()> chosen);
+    void set_row_text(int row, const QString& name, const QString& meaning);
+    // -1: no row.
+    int selected_row() const;
+    // The user's way of choosing.
+    void click_row(int row);
+    // Without the delegate; -1 takes the choice away.
+    void select_row(int row);
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    struct row_widgets {
+        QFrame* frame;
+        QRadioButton* button;
+        text_field* name;
+        text_field* meaning;
+    };
+
+    row_widgets make_row(int row);
+    void show_choice();
+
+    QButtonGroup group_;
+    std::vector<row_widgets> rows_;
+    std::function<void()> chosen_;
+};

@@ -1,0 +1,26 @@
+// A text field of the window.
+#pragma once
+
+#include <QLabel>
+
+// Shows plain text, whatever it holds; one line is cut in its middle when it is too long, and is
+// whole in the tip then. Interface thread.
+class text_field final : public QLabel {
+public:
+    explicit text_field(QWidget* parent);
+
+    // Plain text; what follows it shows the same.
+    void set_value(const QString& value);
+    // Another field that repeats this one.
+    void repeat_in(text_field* follower) { follower_ = follower; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    bool too_long() const;
+    void show_tip();
+
+    text_field* follower_ = nullptr;
+};

@@ -1,0 +1,106 @@
+// The string tables, and texts made ready for widgets.
+#include "app/string_table.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTranslator>
+#include <gmock/gmock.h>
+#include <set>
+
+#include "app/plain_text.h"
+
+namespace {
+
+using testing::IsEmpty;
+
+std::set<std::string> known_keys() {
+    std::set<std::string> keys;
+    for (const auto part : {designed_keys(), window_keys()}) {
+        keys.insert(part.begin(), part.end());
+    }
+    return keys;
+}
+
+// The ids of a translation source.
+std::set<std::string> keys_of_source(const QString& language) {
+    QFile file(QStringLiteral(KESTREL_TRANSLATIONS "/kestrelraid_%1.ts").arg(language));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << language.toStdString();
+    const QString text = QString::fromUtf8(file.readAll());
+    EXPECT_FALSE(text.contains(QLatin1String("type=\"unfinished\""))) << language.toStdString();
+    static const QRegularExpression id(QStringLiteral("<message id=\"([^\"]+)\">"));
+    std::set<std::string> keys;
+    for (auto match = id.globalMatch(text); match.hasNext();) {
+        keys.insert(match.next().captured(1).toStdString());
+    }
+    return keys;
+}
+
+class every_language : public testing::TestWithParam<const char*> {
+protected:
+    void SetUp() override { ASSERT_TRUE(install_language(translator, QLatin1String(GetParam()))); }
+    void TearDown() override { QCoreApplication::removeTranslator(&translator); }
+
+    QTranslator translator;
+};
+
+TEST_P(every_language, HasATextForEveryKeyAndForNoOther) {
+    EXPECT_EQ(keys_of_source(QLatin1String(GetParam())), known_keys());
+    for (const std::string& key : known_keys()) {
+        EXPECT_NE(translated(key), key) << GetParam();
+        EXPECT_NE(translated(key), "") << GetParam() << " " << key;
+    }
+}
+
+TEST_P(every_language, SuffixesStandOffFromTheWordBefore) {
+    for (const char* suffix :
+         {"broken", "degrade", "rebuild_source", "rebuild_target", "rebuilding"}) {
+        EXPECT_EQ(translated(suffix).front(), ' ') << suffix;
+    }
+}
+
+TEST_P(every_language, FillsTheTable) {
+    string_table table;
+    table.load(translated);
+    EXPECT_EQ(table.text("raid_0"), "RAID 0");
+    EXPECT_EQ(table.text("disk_1"), translated("disk_1"));
+}
+
+INSTANTIATE_TEST_SUITE_P(languages, every_language, testing::Values("en", "de"));
+
+TEST(string_tables, HoldFortyThreeDesignedKeys) {
+    const std::set<std::string_view> once(designed_keys().begin(), designed_keys().end());
+    EXPECT_EQ(once.size(), 43U);
+    EXPECT_EQ(known_keys().size(), designed_keys().size() + window_keys().size());
+}
+
+TEST(string_tables, MissingTextYieldsItsKey) {
+    const string_table empty;
+    EXPECT_EQ(empty.text("raid_status"), "raid_status");
+    EXPECT_EQ(translated("no_such_key"), "no_such_key");
+}
+
+TEST(string_tables, LanguageWithoutATableFallsBackToEnglish) {
+    EXPECT_EQ(language_for({"nl-NL", "nl"}), QStringLiteral("en"));
+    EXPECT_EQ(language_for({}), QStringLiteral("en"));
+    QTranslator none;
+    EXPECT_FALSE(install_language(none, QStringLiteral("nl")));
+}
+
+TEST(string_tables, FirstPreferredLanguageThatThereIsWins) {
+    EXPECT_EQ(language_for({"nl-NL", "de-AT", "en-GB"}), QStringLiteral("de"));
+    EXPECT_EQ(language_for({"en-US", "de-DE"}), QStringLiteral("en"));
+}
+
+TEST(plain_text, ControlCharactersBecomeBlanks) {
+    EXPECT_EQ(one_line("a\x01\t\n\x7F"
+                       "b\xC2\x85"),
+              QStringLiteral("a    b "));
+    EXPECT_EQ(plain_lines("a\nb\tc"), QStringLiteral("a\nb c"));
+}
+
+TEST(plain_text, AmpersandsOfButtonsAreDoubled) {
+    EXPECT_EQ(button_text("a&b"), QStringLiteral("a&&b"));
+}
+
+} // namespace

@@ -1,0 +1,231 @@
+// Captions, pages, names of the outlets and the background.
+#include <QAbstractButton>
+#include <QIcon>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStackedWidget>
+#include <QTreeView>
+#include <gmock/gmock.h>
+
+#include "app/controller_box.h"
+#include "app/krview.h"
+#include "app/level_indicator.h"
+#include "app/main_window.h"
+#include "app/radio_matrix.h"
+#include "app/text_field.h"
+#include "app/titled_box.h"
+#include "app/working_indicator.h"
+#include "tests/ui/window_test.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+class chrome : public window_test {};
+
+TEST_F(chrome, CaptionsAreSetInTheirOrderAndShowTheirKeysWithoutAStringTable) {
+    window->setGUIStrings();
+    EXPECT_EQ(take_outlets(), (lines{"confirmbutton: title \"create_raid\"",
+                                     "clearconfigbutton: title \"delete_raid\"",
+                                     "raid_config_radio_box: title \"raid_configuration\"",
+                                     "tabview: label 0 \"configuration_tab\"",
+                                     "tabview: label 1 \"rebuild\"",
+                                     "rebuildlabel: text \"rebuild_progress\"",
+                                     "disk1_SN_static_label: text \"SN\"",
+                                     "disk2_SN_static_label: text \"SN\"",
+                                     "disk1_info_static_label: text \"disk_1\"",
+                                     "disk2_info_static_label: text \"disk_2\"",
+                                     "disk1_rebuild_static_label: text \"disk_1\"",
+                                     "disk2_rebuild_static_label: text \"disk_2\"",
+                                     "disk1_physize_static_label: text \"phy_size\"",
+                                     "disk2_physize_static_label: text \"phy_size\"",
+                                     "disk1_mode_static_label: text \"mode\"",
+                                     "disk2_mode_static_label: text \"mode\"",
+                                     "raid_status_box: title \"raid_status\"",
+                                     "refresh_button: title \"refresh_button\"",
+                                     "rebuild0to1button: title \"rebuild->\"",
+                                     "rebuild1to0button: title \"<-rebuild\""}));
+    EXPECT_EQ(window->rebuild0to1button->text(), QStringLiteral("rebuild->"));
+    EXPECT_EQ(window->rebuild1to0button->text(), QStringLiteral("<-rebuild"));
+}
+
+TEST_F(chrome, AmpersandOfATextIsShownAndMarksNoKey) {
+    texts.set("rebuild", "Re&build");
+    window->setGUIStrings();
+    EXPECT_EQ(window->rebuild0to1button->text(), QStringLiteral("Re&&build->"));
+    EXPECT_EQ(window->tabview->label(1), QStringLiteral("Re&&build"));
+    EXPECT_EQ(window->rebuild0to1button->accessibleName(), QStringLiteral("Re&build->"));
+}
+
+TEST_F(chrome, PagesSwitchWithTheirPictures) {
+    window->switchguishowdisk();
+    EXPECT_THAT(take_outlets(),
+                ElementsAre("showdiskguibutton: image SysInfo_click.png",
+                            "mainguibutton: image RaidST_normal.png", "guitab: selects 1"));
+    EXPECT_EQ(window->guitab->currentIndex(), 1);
+    window->switchguimain();
+    EXPECT_THAT(take_outlets(),
+                ElementsAre("showdiskguibutton: image SysInfo_normal.png",
+                            "mainguibutton: image RaidST_click.png", "guitab: selects 0"));
+    EXPECT_EQ(window->guitab->currentIndex(), 0);
+}
+
+TEST_F(chrome, PageButtonsSwitchThePages) {
+    window->showdiskguibutton->click();
+    EXPECT_EQ(window->guitab->currentIndex(), 1);
+    window->mainguibutton->click();
+    EXPECT_EQ(window->guitab->currentIndex(), 0);
+}
+
+TEST_F(chrome, MinimiseButtonMinimises) {
+    window->minimizebutton->click();
+    EXPECT_TRUE(window->mainwindow->isMinimized());
+}
+
+TEST_F(chrome, EveryPictureIsThere) {
+    for (const char* name :
+         {"SysInfo_normal.png", "SysInfo_click.png", "RaidST_normal.png", "RaidST_click.png",
+          "RaidGUI_lumen_2.png", "yellow.JPG", "disk.png", "disk-warning.png", "disk-error.png",
+          "disk-missing.png", "volume.png", "enclosure.png", "kestrelraid.png"}) {
+        EXPECT_FALSE(QPixmap(QStringLiteral(":/%1").arg(QLatin1String(name))).isNull()) << name;
+        const QString twice = QString(QLatin1String(name)).replace(QLatin1Char('.'), "@2x.");
+        EXPECT_FALSE(QPixmap(QStringLiteral(":/%1").arg(twice)).isNull()) << name;
+    }
+}
+
+TEST_F(chrome, MissingPictureLeavesAUsableButton) {
+    window->outlets.set_image(window->mainguibutton, "no such picture.png");
+    EXPECT_TRUE(window->mainguibutton->isEnabled());
+    EXPECT_TRUE(window->mainguibutton->icon().pixmap(16).isNull());
+}
+
+// Every outlet under its name, with the same as the description that tests find it by.
+TEST_F(chrome, OutletsAreKnownByTheirNames) {
+    const std::vector<std::pair<const char*, QWidget*>> outlets = {
+        {"guitab", window->guitab},
+        {"mainview", window->mainview},
+        {"disk0modelfield", window->disk0modelfield},
+        {"disk1modelfield", window->disk1modelfield},
+        {"disk0serialfield", window->disk0serialfield},
+        {"disk1serialfield", window->disk1serialfield},
+        {"disk0modefield", window->disk0modefield},
+        {"disk1modefield", window->disk1modefield},
+        {"disk0sizefield", window->disk0sizefield},
+        {"disk1sizefield", window->disk1sizefield},
+        {"disk0picmodefield", window->disk0picmodefield},
+        {"disk1picmodefield", window->disk1picmodefield},
+        {"disk0caplabel", window->disk0caplabel},
+        {"disk1caplabel", window->disk1caplabel},
+        {"disk0label", window->disk0label},
+        {"disk1label", window->disk1label},
+        {"disk0oldnewlabel", window->disk0oldnewlabel},
+        {"disk1oldnewlabel", window->disk1oldnewlabel},
+        {"disk0cappicture", window->disk0cappicture},
+        {"disk1cappicture", window->disk1cappicture},
+        {"raidmodelabel", window->raidmodelabel},
+        {"raidconfigradiobutton", window->raidconfigradiobutton},
+        {"raid_config_radio_box", window->raid_config_radio_box},
+        {"raid_status_box", window->raid_status_box},
+        {"disk1_rebuild_static_label", window->disk1_rebuild_static_label},
+        {"disk2_rebuild_static_label", window->disk2_rebuild_static_label},
+        {"disk1_info_static_label", window->disk1_info_static_label},
+        {"disk2_info_static_label", window->disk2_info_static_label},
+        {"disk1_SN_static_label", window->disk1_SN_static_label},
+        {"disk2_SN_static_label", window->disk2_SN_static_label},
+        {"disk1_mode_static_label", window->disk1_mode_static_label},
+        {"disk2_mode_static_label", window->disk2_mode_static_label},
+        {"disk1_physize_static_label", window->disk1_physize_static_label},
+        {"disk2_physize_static_label", window->disk2_physize_static_label},
+        {"twotbcheckbox", window->twotbcheckbox},
+        {"tabview", window->tabview},
+        {"rebuild0to1button", window->rebuild0to1button},
+        {"rebuild1to0button", window->rebuild1to0button},
+        {"confirmbutton", window->confirmbutton},
+        {"cleardisk0button", window->cleardisk0button},
+        {"cleardisk1button", window->cleardisk1button},
+        {"clearconfigbutton", window->clearconfigbutton},
+        {"showdiskguibutton", window->showdiskguibutton},
+        {"mainguibutton", window->mainguibutton},
+        {"minimizebutton", window->minimizebutton},
+        {"closebutton", window->closebutton},
+        {"rebuilddisk0field", window->rebuilddisk0field},
+        {"rebuilddisk1field", window->rebuilddisk1field},
+        {"percentagefield", window->percentagefield},
+        {"rebuildlabel", window->rebuildlabel},
+        {"tree", window->tree},
+        {"controllerselectbox", window->controllerselectbox},
+        {"levelindicator", window->levelindicator},
+        {"workingindicator", window->workingindicator},
+        {"refresh_button", window->refresh_button}};
+    for (const auto& [name, widget] : outlets) {
+        ASSERT_NE(widget, nullptr) << name;
+        EXPECT_EQ(widget->objectName(), QLatin1String(name));
+        EXPECT_EQ(widget->accessibleDescription(), QLatin1String(name));
+    }
+    EXPECT_EQ(window->mainwindow->objectName(), QStringLiteral("mainwindow"));
+    EXPECT_NE(window->configurebutton, nullptr);
+}
+
+TEST_F(chrome, EveryControlHasAName) {
+    for (const QAbstractButton* button : window->mainview->findChildren<QAbstractButton*>()) {
+        if (button != window->twotbcheckbox) {
+            EXPECT_FALSE(button->accessibleName().isEmpty() && button->text().isEmpty())
+                << button->objectName().toStdString();
+        }
+    }
+    EXPECT_FALSE(window->controllerselectbox->accessibleName().isEmpty());
+    EXPECT_FALSE(window->tree->accessibleName().isEmpty());
+}
+
+// Background.
+
+QImage painted(krview& view) {
+    QImage image(view.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::red);
+    view.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
+}
+
+TEST(background, IsStretchedOverTheWholeView) {
+    QPixmap picture(2, 1);
+    QPainter painter(&picture);
+    painter.fillRect(0, 0, 1, 1, Qt::blue);
+    painter.fillRect(1, 0, 1, 1, Qt::green);
+    painter.end();
+    krview view;
+    view.resize(100, 50);
+    view.set_back(picture);
+    const QImage image = painted(view);
+    EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(0, 49), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(99, 0), QColor(Qt::green));
+    EXPECT_EQ(image.pixelColor(99, 49), QColor(Qt::green));
+}
+
+TEST(background, ReplacesWhatIsBelowInsteadOfMixingWithIt) {
+    QPixmap picture(1, 1);
+    picture.fill(QColor(0, 0, 255, 64));
+    krview view;
+    view.resize(10, 10);
+    view.set_back(picture);
+    EXPECT_EQ(painted(view).pixelColor(5, 5).alpha(), 64);
+    EXPECT_EQ(painted(view).pixelColor(5, 5).red(), 0);
+}
+
+TEST(background, WithoutItsPictureIsStillDark) {
+    krview view;
+    view.resize(10, 10);
+    view.set_back(QPixmap());
+    EXPECT_LT(painted(view).pixelColor(5, 5).lightness(), 50);
+}
+
+TEST(background, IsLoadedAtTheStart) {
+    krview view;
+    view.resize(800, 630);
+    view.awakeFromNib();
+    EXPECT_NE(painted(view).pixelColor(400, 300), QColor(Qt::red));
+}
+
+} // namespace
