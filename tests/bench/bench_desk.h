@@ -1,0 +1,36 @@
+// Emulated enclosures of the host service, plugged in as many as a figure asks for.
+#pragma once
+
+#include <condition_variable>
+#include <mutex>
+#include <set>
+#include <thread>
+
+#include "device/emulated_registry.h"
+
+// Follows the session bus from the first have() to its own end. One thread.
+class bench_desk {
+public:
+    bench_desk() = default;
+    ~bench_desk();
+    bench_desk(const bench_desk&) = delete;
+    bench_desk& operator=(const bench_desk&) = delete;
+
+    emulated_registry& registry() { return registry_; }
+
+    // Makes and plugs mirrors, or unplugs some, and returns when the registry knows just `count`.
+    // Ends the process with a line on standard error when there is no bus.
+    void have(int count);
+
+private:
+    void listen();
+    void take(std::uint32_t iterator);
+
+    emulated_registry registry_;
+    std::thread events_;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::set<std::uint32_t> attached_;
+    int made_ = 0;
+    int plugged_ = 0;
+};

@@ -1,0 +1,213 @@
+"""Drives the program as a person would: reads and presses what AT-SPI shows of its window."""
+
+import json
+import os
+import subprocess
+import sys
+import time
+from xml.etree import ElementTree
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+BUILD = sys.argv[1]
+SOURCE = os.path.join(os.path.dirname(__file__), "..", "..")
+PICTURES = os.path.join(SOURCE, "build", "pictures")
+
+
+class Failure(Exception):
+    pass
+
+
+def texts(language="en"):
+    """The window's words, by key."""
+    table = os.path.join(SOURCE, "app", "translations", f"kestrelraid_{language}.ts")
+    return {message.get("id"): message.findtext("translation")
+            for message in ElementTree.parse(table).iter("message")}
+
+
+def enclosure(*words):
+    """Runs krenclosure; what it prints."""
+    run = subprocess.run([f"{BUILD}/bin/krenclosure", *words], capture_output=True, text=True, timeout=30)
+    if run.returncode != 0:
+        raise Failure(f"krenclosure {' '.join(words)}: {run.stderr.strip()}")
+    return run.stdout
+
+
+def enclosures():
+    """What krenclosure says of them, by name."""
+    return {one["name"]: one for one in json.loads(enclosure("list", "--json"))["enclosures"]}
+
+
+def wait_for(what, condition, seconds=60):
+    """Serves events until the condition holds; the value it then has."""
+    loop = GLib.MainLoop()
+    found = []
+    error = []
+    end = time.monotonic() + seconds
+
+    def look(*_):
+        try:
+            value = condition()
+        except (GLib.Error, AttributeError, TypeError) as lost:  # the object went away meanwhile
+            value = None
+            error[:] = [lost]
+        if value:
+            found[:] = [value]
+        if value or time.monotonic() > end:
+            loop.quit()
+            return False
+        return True
+
+    if look():
+        GLib.timeout_add(100, look)
+        loop.run()
+    if not found:
+        raise Failure(f"waited {seconds} s in vain for: {what} {error or ''}")
+    return found[0]
+
+
+def descend(node):
+    yield node
+    for i in range(node.get_child_count()):
+        child = node.get_child_at_index(i)
+        if child is not None:
+            yield from descend(child)
+
+
+class Program:
+    """A running kestrelraid."""
+
+    def __init__(self, language="C.UTF-8", scale=None):
+        environment = dict(os.environ, LANG=language, LC_ALL=language, LANGUAGE=language.split("_")[0])
+        self.scale = scale or 1
+        if scale:
+            environment["QT_SCALE_FACTOR"] = str(scale)
+        self.process = subprocess.Popen(
+            [f"{BUILD}/bin/kestrelraid-emulated"], env=environment,
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        self.application = wait_for("the program on the accessibility bus", self._find)
+
+    def _find(self):
+        if self.process.poll() is not None:
+            raise Failure(f"ended at start with {self.process.returncode}: {self.process.stderr.read()}")
+        desktop = Atspi.get_desktop(0)
+        for i in range(desktop.get_child_count()):
+            application = desktop.get_child_at_index(i)
+            if application and application.get_process_id() == self.process.pid:
+                return application
+        return None
+
+    def find(self, outlet):
+        """The widget of a member of the window, or None."""
+        for node in descend(self.application):
+            if node.get_description() == outlet:
+                return node
+        return None
+
+    def widget(self, outlet):
+        return wait_for(f"the widget {outlet}", lambda: self.find(outlet))
+
+    def text(self, outlet):
+        """What it shows: a label's words, a combo box's entry."""
+        node = self.find(outlet)
+        if node is None:
+            return None
+        if node.get_role() == Atspi.Role.COMBO_BOX:
+            editors = [c for c in descend(node) if c.get_role() == Atspi.Role.TEXT]
+            if editors:
+                return Atspi.Text.get_text(editors[0], 0, -1)
+        return node.get_name()
+
+    def showing(self, outlet):
+        node = self.find(outlet)
+        return node is not None and node.get_state_set().contains(Atspi.StateType.SHOWING)
+
+    def enabled(self, outlet):
+        node = self.find(outlet)
+        return node is not None and node.get_state_set().contains(Atspi.StateType.ENABLED)
+
+    def press(self, outlet):
+        Atspi.Action.do_action(self.widget(outlet), 0)
+
+    def await_text(self, outlet, text, seconds=60):
+        try:
+            wait_for(f"{outlet} = '{text}'", lambda: self.text(outlet) == text, seconds)
+        except Failure:
+            raise Failure(f"{outlet} shows '{self.text(outlet)}', expected '{text}'") from None
+
+    def says(self, text):
+        """Whether a label with this text is on show."""
+        return any(node.get_name() == text and node.get_state_set().contains(Atspi.StateType.SHOWING)
+                   for node in descend(self.application))
+
+    def busy(self):
+        return self.showing("workingindicator")
+
+    def tree(self):
+        """The device tree's rows, in their order."""
+        rows = [node for node in descend(self.widget("tree")) if node.get_role() == Atspi.Role.TABLE_CELL]
+        return [row.get_name() for row in rows]
+
+    def entries(self):
+        """The controller list."""
+        box = self.find("controllerselectbox")
+        return [n.get_name() for n in descend(box) if n.get_role() == Atspi.Role.LIST_ITEM] if box else []
+
+    def panel(self):
+        """The panel in front, or None. Its message is its description."""
+        panels = [node for node in descend(self.application)
+                  if node.get_role() == Atspi.Role.DIALOG and
+                  node.get_state_set().contains(Atspi.StateType.SHOWING)]
+        return panels[-1] if panels else None
+
+    def answer(self, message, seconds=60):
+        """Waits for the panel with this message and presses its default button."""
+        def there():
+            panel = self.panel()
+            return panel if panel and panel.get_description() == message else None
+
+        panel = wait_for(f"the panel '{message}'", there, seconds)
+        for node in descend(panel):
+            if node.get_description() == "panel_default_button":
+                Atspi.Action.do_action(node, 0)
+        wait_for(f"the panel '{message}' to close", lambda: not there())
+
+    def picture(self, name):
+        """Keeps a picture of the window."""
+        os.makedirs(PICTURES, exist_ok=True)
+        place = Atspi.Component.get_extents(self.widget("mainview"), Atspi.CoordType.SCREEN)
+        x, y, width, height = (round(length * self.scale)
+                               for length in (place.x, place.y, place.width, place.height))
+        subprocess.run(["import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "+repage",
+                        f"{PICTURES}/{name}.png"], check=True, timeout=30)
+
+    def end(self, outlet="closebutton"):
+        """Leaves by the window's own button; the exit status, standard output and error."""
+        self.press(outlet)
+        out, err = self.process.communicate(timeout=30)
+        return self.process.returncode, out, err
+
+    def kill(self):
+        if self.process.poll() is None:
+            self.process.kill()
+            self.process.communicate()
+
+
+def check(what, actual, expected):
+    if actual != expected:
+        raise Failure(f"{what}: {actual!r}, expected {expected!r}")
+
+
+def run(*steps):
+    """Runs the steps in order and says so; ends with 1 at the first that fails."""
+    for step in steps:
+        start = time.monotonic()
+        try:
+            step()
+        except Failure as failure:
+            print(f"FAILED {step.__name__}: {failure}")
+            sys.exit(1)
+        print(f"ok {step.__name__} ({time.monotonic() - start:.1f} s)", flush=True)
