@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -61,6 +62,25 @@ public:
     // Takes the rebuild mark from the member on `port`, on the disk and in the cached sector.
     void clear_rebuild(bool port);
 
+    // Changes of the array; the caller has asked the user. The monitors are stopped first, and on
+    // success both caches are flushed and the chip restarted, so that the bridge leaves the bus and
+    // comes back. False: a RAID record could not be written, and the chip was not restarted.
+
+    // Creates an array of `mode` over both disks; any mode that is no array deletes instead. The
+    // second argument is accepted and not used.
+    bool create_raid(int mode, bool unused);
+    // Erases both RAID records, and, unless the array is a mirror, LBAs 0 to 63 of both disks.
+    bool clear_raid();
+    // Erases LBAs 0 to 63 and the RAID record of the disk on `port`.
+    bool clear_disk(bool port);
+    // Has the chip copy port 0 onto port 1, or, with `direction` true, port 1 onto port 0. False
+    // only when the source is no mirror member, with nothing written; whether the records could be
+    // written is not told.
+    bool rebuild(bool direction);
+    // Restarts the chip; its departure is then not taken for a removal. True when the library
+    // says that it was done.
+    bool warm_boot();
+
     // Starts the poller of a running rebuild unless there is one. Always true. Those without the
     // gate take start_wanted_poller().
     bool start_polling();
@@ -80,6 +100,12 @@ public:
 
 private:
     void await_poller();
+
+    // Each writes what it can; false when one of the writes failed.
+    bool write_record(const raid_info& record, bool port);
+    bool write_records(const raid_info& record0, const raid_info& record1);
+    // Flushes these caches and restarts the chip; how that went is not asked.
+    void commit(std::initializer_list<int> ports);
 
     // The FireWire form of reading and writing serves a 48-bit disk behind a FireWire bridge.
     bool firewire_form(bool port) const;

@@ -40,6 +40,13 @@ disk_size size_of(const unsigned char* identify) {
     return {static_cast<std::uint64_t>(widened), address_chs};
 }
 
+// Sectors of another length than 512 bytes are announced in word 106 and counted in 16-bit words.
+std::uint64_t sector_bytes_of(const unsigned char* identify) {
+    const std::uint16_t kind = load_le16(identify + word(106));
+    const bool announced = bit_set(kind, 14) && !bit_set(kind, 15) && bit_set(kind, 12);
+    return announced ? 2 * std::uint64_t{load_le32(identify + word(117))} : sector_size;
+}
+
 template<std::size_t N>
 std::string take_text(const unsigned char* from, std::array<unsigned char, N>& raw) {
     std::copy_n(from, N, raw.begin());
@@ -63,6 +70,8 @@ void krdisk::initialize(const char* identify) {
     const disk_size size = size_of(block.data());
     capacity = size.sectors;
     address_mode = size.address_mode;
+    lba48_sectors = load_le64(block.data() + word(100));
+    logical_sector_bytes = sector_bytes_of(block.data());
 }
 
 void krdisk::take_record(const raid_info& sector, bool valid) {

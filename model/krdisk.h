@@ -33,6 +33,8 @@ public:
     std::array<unsigned char, serial_size> partner_serial_raw{};
     std::array<unsigned char, raid_time_size> raid_time{};
     std::uint32_t address_mode = address_lba48;
+    std::uint64_t lba48_sectors = 0; // what IDENTIFY counts with 48-bit addressing, used or not
+    std::uint64_t logical_sector_bytes = sector_size;
 
     // Only `present` drops; the other fields keep their last values.
     void clear();

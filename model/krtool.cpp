@@ -56,6 +56,20 @@ int krtool::read_raid() {
     return 1;
 }
 
+bool krtool::build_raid(int chip, int mode, bool unused) {
+    const auto index = static_cast<std::size_t>(chip);
+    return chip >= 0 && index < chips.size() && chips[index].create_raid(mode, unused);
+}
+
+bool krtool::clear_raid(int chip) {
+    const auto index = static_cast<std::size_t>(chip);
+    return chip >= 0 && index < chips.size() && chips[index].clear_raid();
+}
+
+bool krtool::warm_boot() {
+    return !chips.empty() && chips.front().warm_boot();
+}
+
 std::optional<chip_snapshot> krtool::current_chip() const {
     const lock_scope lock(records);
     const std::int32_t index = find(current);
@@ -63,6 +77,11 @@ std::optional<chip_snapshot> krtool::current_chip() const {
         return std::nullopt;
     }
     return chip_snapshot{{generation_, index}, chips[static_cast<std::size_t>(index)]};
+}
+
+bool krtool::has_chips() const {
+    const lock_scope lock(records);
+    return !chips.empty();
 }
 
 chip_place krtool::current_place() const {

@@ -65,10 +65,18 @@ public:
     // Rebuilds the device tree from the records and shows it. Always true.
     bool build_tree();
 
+    // Changes of the array of the chip with index `chip` (krchip); false, and nothing done, for an
+    // index that is not there.
+    bool build_raid(int chip, int mode, bool unused);
+    bool clear_raid(int chip);
+    // Restarts the first chip of the list, whichever is selected. False without chips.
+    bool warm_boot();
+
     // For those without the gate; any thread.
 
     // The selected chip, copied.
     std::optional<chip_snapshot> current_chip() const;
+    bool has_chips() const;
     // Where the selected chip is; index -1 when it is not in the list.
     chip_place current_place() const;
     // Runs `action` on the chip at `place` with `records` held: no library call, wait or window

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 #include "model/wake_point.h"
 
@@ -11,6 +12,8 @@
 struct chip_place {
     std::uint64_t generation = 0;
     std::int32_t index = -1;
+
+    bool operator==(const chip_place& other) const = default;
 };
 
 // One per start of a monitor. Any thread.
@@ -43,6 +46,18 @@ private:
     std::atomic<bool> awaited_{true};
     std::atomic<bool> living_{true};
     std::atomic<bool> stop_asked_{false};
+};
+
+// Ends the block with the monitor's thread, in whatever way that ends.
+class monitor_life {
+public:
+    explicit monitor_life(std::shared_ptr<monitor_block> block) : block_(std::move(block)) {}
+    ~monitor_life() { block_->end(); }
+    monitor_life(const monitor_life&) = delete;
+    monitor_life& operator=(const monitor_life&) = delete;
+
+private:
+    const std::shared_ptr<monitor_block> block_;
 };
 
 // A chip record's hold on its monitor; copies share it.

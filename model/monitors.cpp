@@ -36,6 +36,7 @@ void start_poller(chip_place place, bool only_if_wanted) {
     ctrller->startprogressbar();
     ctrller->showrebuildbuttons();
     const bool started = j.with.threads.start([block] {
+        const monitor_life life(block);
         block->go.wait();
         poller(block);
     });
@@ -93,7 +94,11 @@ bool krchip::start_raid1_timer() {
     if (!block) {
         return true;
     }
-    if (!j.with.threads.start([block] { raid1_timer(block); })) {
+    const bool started = j.with.threads.start([block] {
+        const monitor_life life(block);
+        raid1_timer(block);
+    });
+    if (!started) {
         block->end();
         ctrller->show_error_and_exit("Error creating RAID1 timer thread..Exiting");
         raid1_timer_on = false;

@@ -104,5 +104,4 @@ void poller(const monitor_handle& block) {
         // After a failed reading the flag stays up, on purpose.
         j.with_chip(block->place, [](krchip& chip) { chip.poller_alive = false; });
     }
-    block->end();
 }

@@ -111,5 +111,4 @@ void raid1_timer(const monitor_handle& block) {
         }
         lower_flag(block->place);
     }
-    block->end();
 }

@@ -58,6 +58,17 @@ void expect_size(const krdisk& disk, const sector_bytes& b) {
     }
 }
 
+// A block whose word 106 is `kind`, with a logical sector of `words` 16-bit words.
+sector_bytes with_sectors_of(unsigned kind, std::uint32_t words) {
+    sector_bytes block = identify_of("M", "S", 5000).bytes();
+    block[212] = static_cast<unsigned char>(kind & 0xFFU);
+    block[213] = static_cast<unsigned char>(kind >> 8);
+    for (std::size_t i = 0; i < 4; ++i) {
+        block[234 + i] = static_cast<unsigned char>(words >> (8 * i));
+    }
+    return block;
+}
+
 } // namespace
 
 TEST(DiskRecord, BeginsBlank) {
@@ -70,6 +81,8 @@ TEST(DiskRecord, BeginsBlank) {
     EXPECT_EQ(disk.rebuild_role, 0U);
     EXPECT_EQ(disk.raid_capacity, 0U);
     EXPECT_EQ(disk.address_mode, 1U);
+    EXPECT_EQ(disk.lba48_sectors, 0U);
+    EXPECT_EQ(disk.logical_sector_bytes, 512U);
     EXPECT_EQ(disk.raid_info_raw.bytes, sector_bytes{});
 }
 
@@ -151,6 +164,51 @@ TEST(DiskSize, OfADiskThatHidesItsFortyEightBitAddressingIsTheTwentyEightBitCoun
 
 TEST(DiskSize, UsesAllSixtyFourBitsOfTheCount) {
     EXPECT_EQ(disk_from(identify_of("M", "S", 0xFFFFFFFFFFFFFFFF)).capacity, 0xFFFFFFFFFFFFFFFFU);
+}
+
+TEST(FortyEightBitCount, IsKeptWhetherOrNotTheSizeComesFromIt) {
+    EXPECT_EQ(disk_from(fixture_file("identify-48bit")).lba48_sectors, 3907029168U);
+    const krdisk hiding = disk_from(fixture_file("identify-bit-clear-although-beyond-28-bits"));
+    EXPECT_EQ(hiding.lba48_sectors, 625142448U);
+    EXPECT_EQ(hiding.capacity, 268435455U);
+    EXPECT_EQ(disk_from(fixture_file("identify-48bit-count-zero")).lba48_sectors, 0U);
+}
+
+TEST(FortyEightBitCount, HasItsLowWordFirst) {
+    sector_bytes block = identify_of("M", "S", 0).bytes();
+    for (std::size_t i = 0; i < 8; ++i) {
+        block[200 + i] = static_cast<unsigned char>(0x11 * (i + 1));
+    }
+    block[171] = 0; // without 48-bit addressing
+    const krdisk disk = disk_from(block);
+    EXPECT_EQ(disk.lba48_sectors, 0x8877665544332211U);
+    EXPECT_EQ(disk.address_mode, 2U);
+}
+
+TEST(SectorLength, Is512BytesUnlessTheDiskAnnouncesAnother) {
+    for (const unsigned kind : {0U, 0x4000U, 0x1000U, 0x6003U, 0x9000U, 0xD000U, 0xFFFFU}) {
+        EXPECT_EQ(disk_from(with_sectors_of(kind, 2048)).logical_sector_bytes, 512U)
+            << "word 106 is " << kind;
+    }
+}
+
+TEST(SectorLength, IsTwiceTheAnnouncedNumberOfWords) {
+    for (const unsigned kind : {0x5000U, 0x7003U, 0x5FFFU}) {
+        EXPECT_EQ(disk_from(with_sectors_of(kind, 2048)).logical_sector_bytes, 4096U);
+        EXPECT_EQ(disk_from(with_sectors_of(kind, 0x80000100)).logical_sector_bytes, 0x100000200U);
+        EXPECT_EQ(disk_from(with_sectors_of(kind, 260)).logical_sector_bytes, 520U);
+        EXPECT_EQ(disk_from(with_sectors_of(kind, 256)).logical_sector_bytes, 512U);
+        EXPECT_EQ(disk_from(with_sectors_of(kind, 0)).logical_sector_bytes, 0U);
+        EXPECT_EQ(disk_from(with_sectors_of(kind, 0x00010203)).logical_sector_bytes, 0x20406U);
+    }
+}
+
+TEST(SectorLength, OfAFormerDiskIsForgotten) {
+    krdisk disk = disk_from(with_sectors_of(0x5000, 2048));
+    const sector_bytes other = identify_of("DISK C", "SN-C", 6000).bytes();
+    disk.initialize(reinterpret_cast<const char*>(other.data()));
+    EXPECT_EQ(disk.logical_sector_bytes, 512U);
+    EXPECT_EQ(disk.lba48_sectors, 6000U);
 }
 
 TEST(MetadataAddress, LiesBeyondAnyDiskWhenTheSizeIsUnknownOrTooSmall) {

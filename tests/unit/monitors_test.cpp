@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 #include "model/krtool.h"
@@ -270,7 +271,6 @@ TEST_F(Poller, OfAnUnknownChipEndsAtOnceAndSetsNoFlag) {
     poller(none);
     EXPECT_EQ(log.take(), lines{});
     EXPECT_FALSE(chip.poller_alive);
-    EXPECT_FALSE(block->living());
 }
 
 TEST_F(Poller, ThatOutlivesARescanTouchesNeitherBridgeNorRecord) {
@@ -594,7 +594,16 @@ TEST_F(Timer, OfAnUnknownChipEndsAtOnceAndSetsNoFlag) {
     raid1_timer(block);
     EXPECT_EQ(log.take(), lines{});
     EXPECT_FALSE(chip.raid1_timer_alive);
+}
+
+TEST_F(Timer, WhoseThreadThrowsIsWaitedForNoLongerThanADeadOne) {
+    krchip& chip = take_chip(member_a(2), member_b(2));
+    chip.start_raid1_timer();
+    const monitor_handle block = chip.raid1_timer_thread;
+    library.on_nth("krGetRegister", 1, [] { throw std::runtime_error("out of memory"); });
+    EXPECT_THROW(threads.run_next(), std::runtime_error);
     EXPECT_FALSE(block->living());
+    chip.stop_monitors();
 }
 
 TEST_F(StopSequence, OfIdleMonitorsHidesTheProgressAndSleepsNever) {
