@@ -17,8 +17,8 @@ public:
     body_runner(ui_bridge& bridge, input_guard& guard, thread_starter& workers,
                 std::function<void()> at_rest);
 
-    // Runs the body; returns when it has ended. False: there was no thread to be had for it.
-    // Any thread.
+    // Runs the body; returns when it has ended. False: there was no thread to be had for it,
+    // or it threw on its worker. Any thread.
     bool run(const std::function<void()>& body);
 
 private:

@@ -90,7 +90,7 @@ void build_devices(controller& window, QWidget* page) {
     box->place_title(QRect(20, 12, 200, 20));
     window.extras->devices_box = box;
     window.extras->warmbootbutton =
-        make<QPushButton>(page, "warmbootbutton", QRect(556, 310, 200, 32));
+        make<QPushButton>(page, "warmbootbutton", QRect(356, 310, 400, 32));
     auto* tree = make<QTreeView>(page, "tree", QRect(140, 348, 624, 246));
     tree->setHeaderHidden(true);
     tree->setIndentation(24);

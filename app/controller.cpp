@@ -28,6 +28,7 @@ controller::controller(const window_parts& parts)
     : extras(std::make_unique<window_extras>()),
       bridge_(parts.bridge),
       system_(parts.system),
+      copies_(parts.copies),
       tree_data_(parts.tree),
       runner_(parts.bridge, guard_, parts.workers, [this] { obey_remembered_exit(); }),
       own_panels_(guard_),
@@ -39,6 +40,7 @@ controller::controller(const window_parts& parts)
     guard_.always_serve(closebutton, false);
     tabview->set_delegate(
         [this](const tab_item& item) { return tab_gate_.shouldSelectTabViewItem(item); });
+    tabview->serve_user_only_while([this] { return idle(); });
     connect_actions();
 }
 
@@ -53,12 +55,16 @@ void controller::awakeFromNib() {
     controllerselectbox->set_delegate([this] {
         if (idle()) {
             comboBoxSelectionDidChange();
+        } else {
+            show_current_entry();
         }
     });
     raidconfigradiobutton->set_delegate([this] {
-        if (idle()) {
+        const bool obeyed = idle();
+        if (obeyed) {
             radio_changed();
         }
+        return obeyed;
     });
     configuretab->identifier = 0;
     rebuildtab->identifier = tabviewdel::rebuild_identifier;
@@ -130,7 +136,7 @@ void controller::obey_remembered_exit() {
 
 void controller::show_error_and_exit(const std::string& /*message*/) {
     ui([this] {
-        ask(panel_kind::error, localised("error"), localised("error"));
+        panels_.ask({panel_kind::error, localised("error"), localised("error"), {localised("ok")}});
         j.with.exit.leave(status_fatal);
     });
 }
@@ -145,15 +151,15 @@ void controller::as_body(const std::function<void()>& body) {
     }
 }
 
-int controller::ask(panel_kind kind, const std::string& title, const std::string& message) {
-    // Panels may come before the dialog words have been loaded.
-    const std::string ok = s_ok.empty() ? localised("ok") : s_ok;
-    return panels_.ask({kind, title, message, {ok}});
-}
-
 void controller::inform(const std::string& title, const std::string& message) {
     ui([&] {
-        ask(panel_kind::attention, title, message);
+        if (exit_remembered_) {
+            obey_remembered_exit();
+            return; // nobody is to be asked on the way out
+        }
+        // Panels may come before the dialog words have been loaded.
+        const std::string ok = s_ok.empty() ? localised("ok") : s_ok;
+        panels_.ask({panel_kind::attention, title, message, {ok}});
         obey_remembered_exit();
     });
 }

@@ -15,12 +15,14 @@
 #include "app/system_version.h"
 #include "app/tab_view.h"
 #include "app/tabviewdel.h"
+#include "model/change_plan.h"
 #include "model/monitor.h"
 #include "model/window.h"
 
 class QPushButton;
 class QTreeView;
 class controller_box;
+class copy_keeper;
 class krchip;
 class krview;
 class level_indicator;
@@ -40,6 +42,7 @@ struct window_parts {
     ui_bridge& bridge;
     thread_starter& workers; // for what the interface thread must not do itself
     version_query& system;
+    copy_keeper& copies;             // of the records, before they are changed
     const treeview& tree;            // the data of the device tree; the records lock guards it
     panel_answers* panels = nullptr; // none: the user answers
 };
@@ -156,6 +159,15 @@ public:
     void refresh() override;
     void radio_changed();
 
+    // Changes of the array of the selected chip, or, by warmboot(), a restart of the first one.
+    void confirm();
+    void clearconfiguration();
+    void rebuild0to1();
+    void rebuild1to0();
+    void cleardisk0();
+    void cleardisk1();
+    void warmboot();
+
     // Captions and pages.
     void setGUIStrings();
     void switchguimain();
@@ -172,12 +184,14 @@ public:
 private:
     struct disk_outlets;
 
+    // What became of a change; dropped: the disks are no longer those that were confirmed.
+    enum class outcome { dropped, done, failed };
+
     void ui(const std::function<void()>& step);
     void as_body(const std::function<void()>& body);
     // Connects a button to an action that is carried out only while the window is idle.
     void on_click(QPushButton* button, std::function<void()> action);
     void connect_actions();
-    int ask(panel_kind kind, const std::string& title, const std::string& message);
     void inform(const std::string& title, const std::string& message);
     std::string localised(const char* key) const;
     void create_window();
@@ -191,15 +205,28 @@ private:
     void apply(const view_state& view);
     void apply_disk(const disk_view& view, std::size_t port, bool single);
     void apply_array(const view_state& view);
-    void show_alerts(const view_state& view);
-    void show_rebuild(const view_state& view, bool gate_grants, chip_place place);
+    void show_alerts(const view_state& view, chip_place place);
+    void show_rebuild(const krchip& chip, const view_state& view, chip_place place);
     void bring_rebuild_tab(bool gate_grants);
 
+    change_plan plan_for_selected(array_change what, int mode) const;
+    bool granted(const char* question, const change_plan& plan);
+    bool answered_yes(const panel_request& request);
+    outcome carry_out(const change_plan& plan,
+                      const std::function<bool(std::int32_t chip)>& operation);
+    bool copy_kept(const change_plan& plan);
+    void rebuild(array_change direction, const char* question);
+    void cleardisk(array_change what, bool port);
+    void report(const char* error);
+    void report_and_refresh(outcome end, const char* error);
+
+    void show_current_entry();
     bool make_chosen_current();
     bool choose(int position, const controller_t& identity);
 
     ui_bridge& bridge_;
     version_query& system_;
+    copy_keeper& copies_;
     const treeview& tree_data_;
     input_guard guard_;
     body_runner runner_;

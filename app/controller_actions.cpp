@@ -8,6 +8,7 @@
 #include "app/plain_text.h"
 #include "app/radio_matrix.h"
 #include "app/text_field.h"
+#include "app/window_extras.h"
 #include "app/working_indicator.h"
 #include "model/krtool.h"
 #include "model/rescan.h"
@@ -24,6 +25,13 @@ void controller::connect_actions() {
     on_click(refresh_button, [this] { refresh(); });
     on_click(mainguibutton, [this] { switchguimain(); });
     on_click(showdiskguibutton, [this] { switchguishowdisk(); });
+    on_click(confirmbutton, [this] { confirm(); });
+    on_click(clearconfigbutton, [this] { clearconfiguration(); });
+    on_click(rebuild0to1button, [this] { rebuild0to1(); });
+    on_click(rebuild1to0button, [this] { rebuild1to0(); });
+    on_click(cleardisk0button, [this] { cleardisk0(); });
+    on_click(cleardisk1button, [this] { cleardisk1(); });
+    on_click(extras->warmbootbutton, [this] { warmboot(); });
     // These two are obeyed during work as well.
     QObject::connect(minimizebutton, &QPushButton::clicked, minimizebutton,
                      [this] { minimizewindow(); });
@@ -36,12 +44,7 @@ void controller::refresh() {
 
 void controller::radio_changed() {
     constexpr int row_not_configured = 3;
-    bool has_chips = false;
-    {
-        const lock_scope lock(j.records);
-        has_chips = !j.chips.empty();
-    }
-    if (!has_chips) {
+    if (!j.has_chips()) {
         return;
     }
     if (raidconfigradiobutton->selected_row() == row_not_configured) {
@@ -113,7 +116,7 @@ void controller::updatepoll(std::uint64_t end, std::uint64_t currlba, bool diskp
 }
 
 void controller::show_message(const std::string& text) {
-    inform(s_attention, text);
+    ui([&] { inform(s_attention, text); });
 }
 
 void controller::show_hot_swap_message() {

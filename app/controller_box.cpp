@@ -6,7 +6,10 @@
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
+#include <algorithm>
 #include <utility>
+
+#include "app/plain_text.h"
 
 controller_box::controller_box(QWidget* parent) : QComboBox(parent) {
     setEditable(true);
@@ -18,7 +21,7 @@ controller_box::controller_box(QWidget* parent) : QComboBox(parent) {
     view()->setTextElideMode(Qt::ElideMiddle);
     connect(this, &QComboBox::activated, this, [this](int) {
         lineEdit()->setCursorPosition(0);
-        setToolTip(currentText().toHtmlEscaped());
+        setToolTip(tip_text(currentText()));
         if (chosen_) {
             chosen_();
         }
@@ -50,13 +53,20 @@ void controller_box::add_entry(const QString& text, const controller_t& identity
 void controller_box::set_text(const QString& text) {
     setEditText(text);
     lineEdit()->setCursorPosition(0);
-    setToolTip(text.toHtmlEscaped());
+    setToolTip(tip_text(text));
 }
 
 void controller_box::select(int entry) {
     const QSignalBlocker quiet(this);
     setCurrentIndex(entry);
     set_text(itemText(entry));
+}
+
+void controller_box::show_entry_of(const controller_t& identity) {
+    const auto found = std::find(identities_.begin(), identities_.end(), identity);
+    if (found != identities_.end()) {
+        select(static_cast<int>(found - identities_.begin()));
+    }
 }
 
 const controller_t& controller_box::identity(int entry) const {

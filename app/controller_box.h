@@ -22,6 +22,8 @@ public:
     void set_text(const QString& text);
     // Selects without telling the delegate.
     void select(int entry);
+    // Selects the entry of that bridge, without telling the delegate; no such entry: as it was.
+    void show_entry_of(const controller_t& identity);
     // Of an entry that is there.
     const controller_t& identity(int entry) const;
 

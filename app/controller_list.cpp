@@ -6,6 +6,7 @@
 #include "app/controller_box.h"
 #include "app/controller_entry.h"
 #include "app/plain_text.h"
+#include "app/scene.h"
 #include "model/krtool.h"
 
 namespace {
@@ -29,10 +30,15 @@ std::optional<krchip> chip_of_entry(std::size_t position) {
     return j.chips[index];
 }
 
+bool is_first(const controller_t& identity) {
+    const lock_scope lock(j.records);
+    return !j.chips.empty() && j.chips.front().identity == identity;
+}
+
 } // namespace
 
 void controller::clear_controller_list() {
-    const bool nothing = number_of_chips() == 0;
+    const bool nothing = !j.has_chips();
     ui([&] {
         controllerselectbox->remove_all();
         if (nothing) {
@@ -45,6 +51,7 @@ void controller::update_controller_list() {
     as_body([this] {
         clear_controller_list();
         j.with.pause.sleep(std::chrono::seconds(2));
+        std::string first;
         for (std::size_t i = 0; i < number_of_chips(); ++i) {
             const std::optional<krchip> chip = chip_of_entry(i);
             if (!chip) {
@@ -52,14 +59,20 @@ void controller::update_controller_list() {
             }
             const std::string text = controller_entry_text(chip->identity, chip->get_raid_name());
             ui([&] { controllerselectbox->add_entry(one_line(text), chip->identity); });
+            if (is_first(chip->identity)) {
+                first = text;
+            }
         }
-        ui([this] { controllerselectbox->update(); });
+        ui([&] {
+            controllerselectbox->update();
+            show_restart_target(*this, first);
+        });
     });
 }
 
 void controller::select_first_controller() {
     as_body([this] {
-        if (number_of_chips() == 0) {
+        if (!j.has_chips()) {
             update_raid_information();
             return;
         }
@@ -72,7 +85,22 @@ void controller::comboBoxSelectionDidChange() {
     as_body([this] {
         if (make_chosen_current()) {
             update_raid_information();
+        } else {
+            show_current_entry();
         }
+    });
+}
+
+// A choice that is not carried out must not leave the box naming another bridge than the one that
+// is shown and acted on.
+void controller::show_current_entry() {
+    ui([this] {
+        controller_t current;
+        {
+            const lock_scope lock(j.records);
+            current = j.current;
+        }
+        controllerselectbox->show_entry_of(current);
     });
 }
 

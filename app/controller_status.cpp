@@ -110,31 +110,38 @@ void controller::update_raid_information() {
 }
 
 void controller::show_status() {
-    bool has_chips = false;
-    {
-        const lock_scope lock(j.records);
-        has_chips = !j.chips.empty();
-    }
-    const std::optional<chip_snapshot> current = j.current_chip();
-    const view_state view =
-        status_view(current ? &current->chip : nullptr, check_OS_version(), j.with.texts);
+    const bool decimal_units = check_OS_version();
+    const auto view_of = [&](const std::optional<chip_snapshot>& taken) {
+        return status_view(taken ? &taken->chip : nullptr, decimal_units, j.with.texts);
+    };
+    std::optional<chip_snapshot> current;
+    view_state view;
     ui([&] {
+        current = j.current_chip();
+        view = view_of(current);
         cleargui();
         disablegui(false);
         if (!view.blank) {
             apply(view);
-        } else if (!has_chips) {
+        } else if (!j.has_chips()) {
             show_empty_scene(*this);
         }
     });
     if (view.blank) {
         return;
     }
-    show_alerts(view);
-    show_rebuild(view, current->chip.rebuild_possible != 0, current->place);
-    ui([this] {
-        outlets.set_hidden(tree, false);
-        outlets.needs_display(mainview);
+    const chip_place place = current->place;
+    show_alerts(view, place);
+    current = j.current_chip();
+    if (!current || !(current->place == place)) {
+        return; // whoever has read the bridges since then has shown them
+    }
+    show_rebuild(current->chip, view_of(current), place);
+    ui([&] {
+        if (j.current_place() == place) {
+            outlets.set_hidden(tree, false);
+            outlets.needs_display(mainview);
+        }
     });
 }
 
@@ -147,7 +154,7 @@ void controller::apply(const view_state& view) {
     if (view.raid_valid) {
         apply_array(view);
     }
-    if (view.confirmbutton) {
+    if (view.both_idle) {
         outlets.set_enabled(confirmbutton, true);
     }
     show_chip_scene(*this, view);
@@ -194,14 +201,17 @@ void controller::apply_array(const view_state& view) {
 }
 
 // The alerts wait for a person: whoever needs the records meanwhile may have them.
-void controller::show_alerts(const view_state& view) {
+void controller::show_alerts(const view_state& view, chip_place place) {
     for (const std::string& message : view.alerts) {
         const gate_pause others_may_work(j.gate);
-        inform(view.alert_title, message);
+        if (j.current_place() == place) {
+            inform(view.alert_title, message);
+        }
     }
 }
 
-void controller::show_rebuild(const view_state& view, bool gate_grants, chip_place place) {
+void controller::show_rebuild(const krchip& chip, const view_state& view, chip_place place) {
+    const bool gate_grants = chip.rebuild_possible != 0;
     if (view.rebuild_tab_for_choice) {
         bring_rebuild_tab(gate_grants);
     }
@@ -211,6 +221,9 @@ void controller::show_rebuild(const view_state& view, bool gate_grants, chip_pla
     start_wanted_poller(place);
     bring_rebuild_tab(gate_grants);
     ui([&] {
+        if (!(j.current_place() == place)) {
+            return;
+        }
         QPushButton* direction = view.rebuild_source == 0 ? rebuild0to1button : rebuild1to0button;
         outlets.set_image(direction, "yellow.JPG");
         mark_running(direction);

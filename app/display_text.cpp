@@ -15,3 +15,11 @@ std::string device_text(const std::string& bytes) {
     }
     return utf8;
 }
+
+std::string filled(std::string text, const std::string& value) {
+    constexpr std::string_view place = "%1";
+    if (const std::size_t at = text.find(place); at != std::string::npos) {
+        text.replace(at, place.size(), value);
+    }
+    return text;
+}

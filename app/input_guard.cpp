@@ -58,6 +58,8 @@ bool inside(const QWidget* widget, const QWidget* area) {
 
 input_guard::input_guard() {
     qApp->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* now) { keep_focus_in_panel(now); });
 }
 
 void input_guard::always_serve(QWidget* widget, bool behind_panels) {
@@ -97,6 +99,16 @@ bool input_guard::eventFilter(QObject* receiver, QEvent* event) {
     }
     const QWidget* widget = widget_of(receiver);
     return widget != nullptr && !serves(widget);
+}
+
+// A click beside a panel gives the focus away before any filter can drop it.
+void input_guard::keep_focus_in_panel(const QWidget* focused) const {
+    QWidget* panel = topmost_panel();
+    if (panel == nullptr || focused == nullptr || inside(focused, panel)) {
+        return;
+    }
+    QWidget* last = panel->focusWidget();
+    (last != nullptr ? last : panel)->setFocus();
 }
 
 bool input_guard::serves(const QWidget* widget) const {

@@ -40,6 +40,7 @@ private:
         bool behind_panels;
     };
 
+    void keep_focus_in_panel(const QWidget* focused) const;
     bool serves(const QWidget* widget) const;
 
     int works_ = 0;

@@ -9,6 +9,7 @@
 #include "app/controller.h"
 #include "app/display.h"
 #include "app/look.h"
+#include "app/safety_copy.h"
 #include "app/string_table.h"
 #include "app/system_version.h"
 #include "app/treeview.h"
@@ -31,6 +32,7 @@ system_log console;
 string_table texts;
 exit_gate way_out;
 desktop_version version;
+copies_in_state_folder copies;
 
 } // namespace
 
@@ -46,7 +48,7 @@ int run(QApplication& application) {
     install_language(translator, language_for(QLocale::system().uiLanguages()));
     texts.load(translated);
     ui_bridge bridge;
-    controller window({bridge, threads, version, static_cast<const treeview&>(*j.tree)});
+    controller window({bridge, threads, version, copies, static_cast<const treeview&>(*j.tree)});
     window.awakeFromNib();
     window.applicationDidFinishLaunching();
     const int status = application.exec();

@@ -13,7 +13,9 @@ main_window::main_window(std::function<void()> close_wanted)
 
 void main_window::place_from_bottom_left(int x, int y) {
     const QRect area = screen()->geometry();
-    move(area.left() + x, area.bottom() + 1 - y - height());
+    // On a low screen the head of the window counts more than the distance from the bottom.
+    const QRect usable = screen()->availableGeometry();
+    move(area.left() + x, qMax(area.bottom() + 1 - y - height(), usable.top()));
 }
 
 void main_window::closeEvent(QCloseEvent* event) {

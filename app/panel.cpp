@@ -12,36 +12,35 @@
 #include <QVBoxLayout>
 
 #include "app/input_guard.h"
+#include "app/panel_texts.h"
+#include "app/placing.h"
 #include "app/plain_text.h"
+#include "app/plan_cards.h"
+#include "app/text_field.h"
 
 namespace {
 
-constexpr int panel_width = 520;
-constexpr int panel_least_height = 196;
-constexpr int margin = 28;
+constexpr QSize least_size(520, 196);
+constexpr QSize least_size_with_plan(632, 368);
+constexpr QMargins margins(27, 25, 27, 21); // inside the border
 constexpr int icon_size = 32;
+constexpr int title_height = 26;
+constexpr int line_height = 18;
+constexpr int least_distance = 18; // below the texts
+constexpr int plan_distance = 24;  // below the cards
 constexpr int button_width = 112;
 constexpr int button_height = 38;
 
 const char* icon_of(panel_kind kind) {
     switch (kind) {
     case panel_kind::warning:
-        return ":/status-warn.png";
+        return "panel-warn";
     case panel_kind::error:
-        return ":/status-error.png";
+        return "panel-error";
     case panel_kind::attention:
         break;
     }
-    return ":/status-info.png";
-}
-
-QLabel* plain_label(const QString& text, const char* role) {
-    auto* label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
-    label->setProperty("role", role);
-    label->setWordWrap(true);
-    label->setText(text);
-    return label;
+    return "panel-info";
 }
 
 // A dialog inside the window: the keys go round its own buttons only.
@@ -58,8 +57,8 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    QHBoxLayout* make_head(const panel_request& request);
-    QHBoxLayout* make_buttons(const panel_request& request);
+    QLayout* make_head(const panel_request& request);
+    QLayout* make_buttons(const panel_request& request);
     QPushButton* make_button(const std::string& text, const char* name);
 
     const bool two_buttons_;
@@ -72,38 +71,47 @@ panel_dialog::panel_dialog(QWidget* parent, const panel_request& request)
     setObjectName(QStringLiteral("panel"));
     setAccessibleName(one_line(request.title));
     setAccessibleDescription(one_line(request.message));
-    auto* frame = new QFrame;
-    frame->setProperty("role", "panel");
+    auto* frame = with_role(new QFrame, "panel");
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(frame);
     auto* inner = new QVBoxLayout(frame);
-    inner->setContentsMargins(margin, margin, margin, margin);
+    inner->setContentsMargins(margins);
+    inner->setSpacing(0);
     inner->addLayout(make_head(request));
+    inner->addSpacing(least_distance);
     inner->addStretch();
+    if (request.plan) {
+        inner->addWidget(make_plan_cards(*request.plan));
+        inner->addSpacing(plan_distance);
+    }
     inner->addLayout(make_buttons(request));
-    setFixedWidth(panel_width);
-    setFixedHeight(qMax(panel_least_height, outer->heightForWidth(panel_width)));
+    const QSize least = request.plan ? least_size_with_plan : least_size;
+    setFixedSize(least.width(), qMax(least.height(), outer->heightForWidth(least.width())));
 }
 
-QHBoxLayout* panel_dialog::make_head(const panel_request& request) {
-    auto* icon = new QLabel;
-    icon->setPixmap(QIcon(icon_of(request.kind)).pixmap(icon_size));
+QLayout* panel_dialog::make_head(const panel_request& request) {
     auto* texts = new QVBoxLayout;
-    texts->setSpacing(6);
-    texts->addWidget(plain_label(one_line(request.title), "title"));
-    texts->addWidget(plain_label(plain_lines(request.message), "message"));
+    texts->setSpacing(4);
+    texts->addWidget(one_line_text(one_line(request.title), title_height, "title"));
+    texts->addWidget(wrapped_text(plain_lines(request.message), "message"));
+    if (request.plan) {
+        texts->addSpacing(2);
+        texts->addWidget(wrapped_text(one_line(request.plan->heading), "strong"));
+    }
+    texts->addStretch();
     auto* head = new QHBoxLayout;
     head->setSpacing(20);
-    head->addWidget(icon, 0, Qt::AlignTop);
+    head->addWidget(panel_picture(icon_of(request.kind), icon_size, icon_size), 0, Qt::AlignTop);
     head->addLayout(texts, 1);
     return head;
 }
 
-QHBoxLayout* panel_dialog::make_buttons(const panel_request& request) {
+QLayout* panel_dialog::make_buttons(const panel_request& request) {
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
-    row->addStretch();
+    const QString enclosure = request.plan ? one_line(request.plan->enclosure) : QString();
+    row->addWidget(one_line_text(enclosure, line_height, "fine", "quiet"), 1);
     if (two_buttons_) {
         QPushButton* second = make_button(request.buttons[1], "panel_second_button");
         connect(second, &QPushButton::clicked, this, &QDialog::reject);
@@ -124,7 +132,8 @@ QPushButton* panel_dialog::make_button(const std::string& text, const char* name
     button->setAccessibleName(one_line(text));
     button->setAccessibleDescription(QLatin1String(name));
     button->setMinimumSize(button_width, button_height);
-    button->setAutoDefault(false);
+    // With the focus on it, the Return key means this button and not the default one.
+    button->setAutoDefault(true);
     buttons_.append(button);
     return button;
 }

@@ -1,8 +1,11 @@
 // Message panels.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "app/plan_text.h"
 
 class QWidget;
 class input_guard;
@@ -14,7 +17,8 @@ struct panel_request {
     panel_kind kind = panel_kind::attention;
     std::string title;
     std::string message;
-    std::vector<std::string> buttons; // one or two; the first is the default
+    std::vector<std::string> buttons;             // one or two; the first is the default
+    std::optional<plan_view> plan = std::nullopt; // of the change that is asked about
 };
 
 inline constexpr int panel_default = 1;

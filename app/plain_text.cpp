@@ -1,5 +1,7 @@
 #include "app/plain_text.h"
 
+#include <QTextDocument>
+
 namespace {
 
 QString without_controls(const std::string& utf8, bool keep_line_feeds) {
@@ -21,6 +23,10 @@ QString one_line(const std::string& utf8) {
 
 QString plain_lines(const std::string& utf8) {
     return without_controls(utf8, true);
+}
+
+QString tip_text(const QString& plain) {
+    return plain.isEmpty() ? QString() : Qt::convertFromPlainText(plain);
 }
 
 QString button_text(const std::string& utf8) {

@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QIcon>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <QStyle>
 #include <array>
@@ -26,16 +27,17 @@ radio_matrix::radio_matrix(QWidget* parent) : QWidget(parent) {
         rows_.push_back(make_row(row));
         group_.addButton(rows_.back().button, row);
     }
-    connect(&group_, &QButtonGroup::idClicked, this, [this](int) {
-        if (chosen_) {
-            chosen_();
+    // Not idClicked: assistive programs toggle a row and do not click it.
+    connect(&group_, &QButtonGroup::idToggled, this, [this](int row, bool checked) {
+        show_choice();
+        if (checked && row != settled_) {
+            take_choice(row);
         }
     });
-    connect(&group_, &QButtonGroup::idToggled, this, [this](int, bool) { show_choice(); });
     select_row(0);
 }
 
-void radio_matrix::set_delegate(std::function<void()> chosen) {
+void radio_matrix::set_delegate(std::function<bool()> chosen) {
     chosen_ = std::move(chosen);
 }
 
@@ -56,6 +58,7 @@ void radio_matrix::click_row(int row) {
 }
 
 void radio_matrix::select_row(int row) {
+    settled_ = row;
     if (row >= 0) {
         group_.button(row)->setChecked(true);
         return;
@@ -71,7 +74,9 @@ void radio_matrix::select_row(int row) {
 bool radio_matrix::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() == QEvent::MouseButtonRelease) {
         for (const row_widgets& row : rows_) {
-            if (receiver == row.frame) {
+            const auto* release = static_cast<QMouseEvent*>(event);
+            if (receiver == row.frame && release->button() == Qt::LeftButton &&
+                row.frame->rect().contains(release->position().toPoint())) {
                 row.button->setFocus(Qt::MouseFocusReason);
                 row.button->click();
                 return true;
@@ -99,6 +104,13 @@ radio_matrix::row_widgets radio_matrix::make_row(int row) {
     meaning->setProperty("role", "small");
     meaning->setGeometry(90, 24, 292, 16);
     return {frame, button, name, meaning};
+}
+
+void radio_matrix::take_choice(int row) {
+    const int before = std::exchange(settled_, row);
+    if (chosen_ && !chosen_()) {
+        select_row(before);
+    }
 }
 
 void radio_matrix::show_choice() {

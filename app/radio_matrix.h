@@ -18,8 +18,8 @@ public:
 
     explicit radio_matrix(QWidget* parent);
 
-    // Is called when the user has chosen a row.
-    void set_delegate(std::function<void()> chosen);
+    // Is called when the user has chosen a row; false puts the row before it back.
+    void set_delegate(std::function<bool()> chosen);
     void set_row_text(int row, const QString& name, const QString& meaning);
     // -1: no row.
     int selected_row() const;
@@ -40,9 +40,11 @@ private:
     };
 
     row_widgets make_row(int row);
+    void take_choice(int row);
     void show_choice();
 
     QButtonGroup group_;
     std::vector<row_widgets> rows_;
-    std::function<void()> chosen_;
+    std::function<bool()> chosen_;
+    int settled_ = -1; // the row that counts
 };

@@ -9,9 +9,13 @@
 
 #include "app/controller.h"
 #include "app/controller_box.h"
+#include "app/display_text.h"
+#include "app/gated_tab_bar.h"
+#include "app/level_indicator.h"
 #include "app/placing.h"
 #include "app/plain_text.h"
 #include "app/radio_matrix.h"
+#include "app/tab_view.h"
 #include "app/text_field.h"
 #include "app/titled_box.h"
 #include "app/window_extras.h"
@@ -86,6 +90,8 @@ void show_bay(controller& window, const disk_view& disk, std::size_t port) {
     const char* tone = tone_of(disk.condition);
     set_tone(port == 0 ? window.disk0picmodefield : window.disk1picmodefield, tone);
     set_tone(port == 0 ? window.disk0modefield : window.disk1modefield, tone);
+    QPushButton* direction = port == 0 ? window.rebuild0to1button : window.rebuild1to0button;
+    direction->setToolTip(one_line(disk.rebuild_reason));
     extras.empty_pictures[port]->setVisible(!disk.present);
     extras.empty_captions[port]->setVisible(!disk.present);
     extras.empty_words[port]->setVisible(!disk.present);
@@ -119,10 +125,12 @@ void caption_extras(controller& window) {
     window.closebutton->setToolTip(localised("close"));
     window.controllerselectbox->setAccessibleName(localised("controllers"));
     window.workingindicator->setAccessibleName(localised("working"));
-    extras.warmbootbutton->setText(button_text(j.with.texts.text("restart_enclosure")));
+    show_restart_target(window, "");
     extras.devices_box->set_title(localised("devices"));
     window.tree->setAccessibleName(localised("devices"));
     extras.rebuild_hint->set_value(localised("rebuild_hint"));
+    window.levelindicator->setAccessibleName(localised("rebuild_progress"));
+    window.tabview->bar()->setAccessibleName(localised("raid_status"));
     constexpr std::array<const char*, 2> disks = {"disk_1", "disk_2"};
     for (std::size_t port = 0; port < disks.size(); ++port) {
         extras.empty_captions[port]->set_value(localised(disks[port]));
@@ -151,6 +159,8 @@ void clear_scene(controller& window) {
     }
     extras.hint_icon->show();
     extras.rebuild_hint->show();
+    window.rebuild0to1button->setToolTip({});
+    window.rebuild1to0button->setToolTip({});
     restyle(window.rebuild0to1button, "running", false);
     restyle(window.rebuild1to0button, "running", false);
 }
@@ -183,4 +193,17 @@ void mark_running(QPushButton* button) {
 void show_progress_scene(controller& window) {
     window.extras->hint_icon->hide();
     window.extras->rebuild_hint->hide();
+}
+
+void show_restart_target(controller& window, const std::string& name) {
+    QPushButton* button = window.extras->warmbootbutton;
+    const std::string text = name.empty() ? j.with.texts.text("restart_enclosure")
+                                          : filled(j.with.texts.text("restart_named"), name);
+    constexpr int padding = 24;
+    const QString shown = button->fontMetrics().elidedText(one_line(text), Qt::ElideMiddle,
+                                                           button->width() - padding);
+    button->setText(button_text(shown.toStdString()));
+    button->setAccessibleName(one_line(text));
+    button->setToolTip(tip_text(one_line(text)));
+    button->setEnabled(!name.empty());
 }

@@ -2,6 +2,8 @@
 // thread.
 #pragma once
 
+#include <string>
+
 struct view_state;
 class QPushButton;
 class controller;
@@ -23,3 +25,5 @@ void show_chip_scene(controller& window, const view_state& view);
 void mark_running(QPushButton* button);
 // The progress of a rebuild is shown, in place of the hint.
 void show_progress_scene(controller& window);
+// The enclosure that a restart would reach, by its name in the list; empty: there is none.
+void show_restart_target(controller& window, const std::string& name);

@@ -12,20 +12,6 @@ constexpr std::uint64_t sector_bytes = 512;
 constexpr std::uint64_t gigabyte = 1'000'000'000;
 constexpr std::uint64_t terabyte = 1'000'000'000'000;
 
-// Modes 3 and 5 are shown as not configured, and so is every number that means nothing.
-std::string mode_name(std::int32_t mode, const text_lookup& texts) {
-    switch (mode) {
-    case mode_raid0:
-        return texts.text("raid_0");
-    case mode_raid1:
-        return texts.text("raid_1");
-    case mode_span:
-        return texts.text("span");
-    default:
-        return texts.text("not_config");
-    }
-}
-
 // The half with the earlier record is the one called new, and the other way round.
 std::string age_word(const krdisk& disk, const text_lookup& texts) {
     switch (disk.rebuild_role) {
@@ -41,6 +27,17 @@ std::string age_word(const krdisk& disk, const text_lookup& texts) {
 bool can_rebuild_onto(const krchip& chip, const krdisk& source, const krdisk& target) {
     return source.raid_mode == mode_raid1 && target.present != 0 && !chip.polling &&
            chip.raid_valid == 0 && source.raid_capacity <= target.capacity;
+}
+
+std::string reason_against_rebuild(const krchip& chip, std::size_t port, const text_lookup& texts) {
+    const krdisk& source = chip.disks[port];
+    const krdisk& target = chip.disks[1 - port];
+    if (source.raid_mode != mode_raid1 || target.present == 0 || chip.raid_valid != 0 ||
+        source.raid_capacity <= target.capacity) {
+        return {};
+    }
+    return filled(texts.text(port == 0 ? "too_small_for_rebuild_2" : "too_small_for_rebuild_1"),
+                  inttostring(source.raid_capacity - target.capacity));
 }
 
 disk_condition condition_of(const krchip& chip, const krdisk& disk) {
@@ -89,6 +86,7 @@ disk_view view_of_disk(const krchip& chip, std::size_t port, bool decimal_units,
     view.sizefield = size_text(disk.capacity, decimal_units);
     view.rebuilddiskfield = mode_name(disk.raid_mode, texts);
     view.rebuildbutton = can_rebuild_onto(chip, disk, chip.disks[1 - port]);
+    view.rebuild_reason = reason_against_rebuild(chip, port, texts);
     view.oldnewlabel = age_word(disk, texts);
     view.cleardiskbutton = disk.is_member() && chip.raid_valid == 0;
     view.modefield = mode_text(chip, disk, texts);
@@ -154,6 +152,7 @@ view_state status_view(const krchip* chip, bool decimal_units, const text_lookup
     }
     if (both_present && !chip->polling) {
         view.confirmbutton = true;
+        view.both_idle = true;
     }
     collect_alerts(view, *chip, both_present, texts);
     view.rebuild_tab_for_choice = !view.raid_valid && both_present &&
@@ -163,6 +162,19 @@ view_state status_view(const krchip* chip, bool decimal_units, const text_lookup
         view.rebuild_source = d0.rebuild_mark != 0 ? 0 : 1;
     }
     return view;
+}
+
+std::string mode_name(std::int32_t mode, const text_lookup& texts) {
+    switch (mode) {
+    case mode_raid0:
+        return texts.text("raid_0");
+    case mode_raid1:
+        return texts.text("raid_1");
+    case mode_span:
+        return texts.text("span");
+    default:
+        return texts.text("not_config");
+    }
 }
 
 std::string size_text(std::uint64_t sectors, bool decimal_units) {

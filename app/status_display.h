@@ -29,6 +29,7 @@ struct disk_view {
     bool cappicture = false;      // shown
     bool cleardiskbutton = false; // enabled and shown
     bool rebuildbutton = false;   // the one from this disk to the other is enabled
+    std::string rebuild_reason;   // why it is not, where the other disk is too small
 };
 
 // Everything that an update shows and does beyond the blank state.
@@ -38,6 +39,7 @@ struct view_state {
     std::array<disk_view, 2> disks; // index = port
     std::string raidmodelabel;
     bool confirmbutton = false;     // enabled
+    bool both_idle = false;         // two disks and no rebuild: which enables it as the last step
     bool clearconfigbutton = false; // enabled
     bool showdiskguibutton = false; // enabled
     std::string alert_title;
@@ -50,6 +52,9 @@ struct view_state {
 // The view of a chip; nothing (no chip, or the selected one is not there) gives the blank state.
 // Any thread; any field values are safe.
 view_state status_view(const krchip* chip, bool decimal_units, const text_lookup& texts);
+
+// The name of an array kind; every mode that is none is "not configured".
+std::string mode_name(std::int32_t mode, const text_lookup& texts);
 
 // Sizes in gigabytes: decimal ones, else units of 2^30 bytes. `sectors` count 512 bytes.
 std::string size_text(std::uint64_t sectors, bool decimal_units);

@@ -51,7 +51,7 @@ constexpr std::array<std::string_view, 43> designed = {
     "device",
 };
 
-constexpr std::array<std::string_view, 20> of_the_window = {
+constexpr std::array<std::string_view, 40> of_the_window = {
     "controllers",
     "system_information",
     "devices",
@@ -72,6 +72,26 @@ constexpr std::array<std::string_view, 20> of_the_window = {
     "scanning",
     "scanning_advice",
     "rebuild_hint",
+    "plan_create",
+    "plan_delete",
+    "plan_wipe_disk_1",
+    "plan_wipe_disk_2",
+    "plan_copy_disk_1",
+    "plan_copy_disk_2",
+    "plan_untouched",
+    "plan_all_lost",
+    "plan_keeps_data",
+    "plan_read",
+    "plan_overwritten",
+    "plan_overwrites",
+    "plan_too_small",
+    "plan_record_inside_mirror",
+    "plan_larger_than_used",
+    "plan_foreign_sectors",
+    "copy_failed",
+    "too_small_for_rebuild_1",
+    "too_small_for_rebuild_2",
+    "restart_named",
 };
 
 } // namespace

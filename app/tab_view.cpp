@@ -14,7 +14,7 @@ tab_view::tab_view(QWidget* parent)
       pages_(new QStackedWidget(this)) {
     frame_->setProperty("role", "box");
     bar_->raise();
-    bar_->set_request([this](int index) { selectTabViewItem(index); });
+    bar_->set_request([this](int index) { user_asks_for(index); });
 }
 
 void tab_view::arrange() {
@@ -43,6 +43,16 @@ tab_item* tab_view::add_item() {
 
 void tab_view::set_delegate(delegate asked) {
     asked_ = std::move(asked);
+}
+
+void tab_view::serve_user_only_while(std::function<bool()> idle) {
+    idle_ = std::move(idle);
+}
+
+void tab_view::user_asks_for(int index) {
+    if (!idle_ || idle_()) {
+        selectTabViewItem(index);
+    }
 }
 
 void tab_view::set_label(int index, const QString& label) {
@@ -77,5 +87,5 @@ void tab_view::keyPressEvent(QKeyEvent* event) {
         return;
     }
     const int count = bar_->count();
-    selectTabViewItem((selected() + (forward ? 1 : count - 1)) % count);
+    user_asks_for((selected() + (forward ? 1 : count - 1)) % count);
 }

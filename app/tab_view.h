@@ -30,6 +30,8 @@ public:
     // A new tab behind the others; the first is in front. The view owns the item.
     tab_item* add_item();
     void set_delegate(delegate asked);
+    // While this says no, what the user asks for is not heard, from wherever it comes.
+    void serve_user_only_while(std::function<bool()> idle);
     void set_label(int index, const QString& label);
     QString label(int index) const;
     void selectTabViewItem(int index);
@@ -43,10 +45,12 @@ protected:
 
 private:
     void arrange();
+    void user_asks_for(int index);
 
     gated_tab_bar* bar_;
     QFrame* frame_;
     QStackedWidget* pages_;
     std::vector<std::unique_ptr<tab_item>> items_;
     delegate asked_;
+    std::function<bool()> idle_;
 };

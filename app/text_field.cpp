@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include "app/plain_text.h"
+
 text_field::text_field(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::NoTextInteraction);
@@ -38,5 +40,5 @@ bool text_field::too_long() const {
 }
 
 void text_field::show_tip() {
-    setToolTip(too_long() ? text().toHtmlEscaped() : QString());
+    setToolTip(too_long() ? tip_text(text()) : QString());
 }

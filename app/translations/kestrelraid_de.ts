@@ -255,5 +255,85 @@
         <source></source>
         <translation>Der Pfeil zeigt, wohin die Daten fließen. Die Festplatte an seiner Spitze wird überschrieben. Vor dem Schreiben werden Sie noch einmal gefragt.</translation>
     </message>
+    <message id="plan_create">
+        <source></source>
+        <translation>Legt einen neuen Verbund an: %1.</translation>
+    </message>
+    <message id="plan_delete">
+        <source></source>
+        <translation>Löscht den Verbund.</translation>
+    </message>
+    <message id="plan_wipe_disk_1">
+        <source></source>
+        <translation>Leert Festplatte 1.</translation>
+    </message>
+    <message id="plan_wipe_disk_2">
+        <source></source>
+        <translation>Leert Festplatte 2.</translation>
+    </message>
+    <message id="plan_copy_disk_1">
+        <source></source>
+        <translation>Kopiert Festplatte 1 auf Festplatte 2.</translation>
+    </message>
+    <message id="plan_copy_disk_2">
+        <source></source>
+        <translation>Kopiert Festplatte 2 auf Festplatte 1.</translation>
+    </message>
+    <message id="plan_untouched">
+        <source></source>
+        <translation>nichts wird geschrieben</translation>
+    </message>
+    <message id="plan_all_lost">
+        <source></source>
+        <translation>verliert alle Daten</translation>
+    </message>
+    <message id="plan_keeps_data">
+        <source></source>
+        <translation>behält die Daten, verlässt den Verbund</translation>
+    </message>
+    <message id="plan_read">
+        <source></source>
+        <translation>wird gelesen, behält die Daten</translation>
+    </message>
+    <message id="plan_overwritten">
+        <source></source>
+        <translation>wird überschrieben, alle Daten verloren</translation>
+    </message>
+    <message id="plan_overwrites">
+        <source></source>
+        <translation>überschreibt</translation>
+    </message>
+    <message id="plan_too_small">
+        <source></source>
+        <translation>Um %1 Sektoren zu klein.</translation>
+    </message>
+    <message id="plan_record_inside_mirror">
+        <source></source>
+        <translation>Die Kopie reicht bis an den RAID-Datensatz.</translation>
+    </message>
+    <message id="plan_larger_than_used">
+        <source></source>
+        <translation>Nur ein Teil der Platte wird genutzt: Der RAID-Datensatz liegt vor dem Ende.</translation>
+    </message>
+    <message id="plan_foreign_sectors">
+        <source></source>
+        <translation>Ihre Sektoren haben nicht 512 Byte.</translation>
+    </message>
+    <message id="copy_failed">
+        <source></source>
+        <translation>Die Sicherheitskopie der RAID-Datensätze konnte nicht geschrieben werden: %1. Ohne sie fortfahren?</translation>
+    </message>
+    <message id="too_small_for_rebuild_1">
+        <source></source>
+        <translation>Festplatte 1 ist um %1 Sektoren zu klein.</translation>
+    </message>
+    <message id="too_small_for_rebuild_2">
+        <source></source>
+        <translation>Festplatte 2 ist um %1 Sektoren zu klein.</translation>
+    </message>
+    <message id="restart_named">
+        <source></source>
+        <translation>%1 neu starten</translation>
+    </message>
 </context>
 </TS>

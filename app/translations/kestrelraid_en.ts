@@ -255,5 +255,85 @@
         <source></source>
         <translation>The arrow shows which way the data flows. The disk at its tip is overwritten. You are asked once more before anything is written.</translation>
     </message>
+    <message id="plan_create">
+        <source></source>
+        <translation>Creates a new array: %1.</translation>
+    </message>
+    <message id="plan_delete">
+        <source></source>
+        <translation>Deletes the array.</translation>
+    </message>
+    <message id="plan_wipe_disk_1">
+        <source></source>
+        <translation>Wipes disk 1.</translation>
+    </message>
+    <message id="plan_wipe_disk_2">
+        <source></source>
+        <translation>Wipes disk 2.</translation>
+    </message>
+    <message id="plan_copy_disk_1">
+        <source></source>
+        <translation>Copies disk 1 onto disk 2.</translation>
+    </message>
+    <message id="plan_copy_disk_2">
+        <source></source>
+        <translation>Copies disk 2 onto disk 1.</translation>
+    </message>
+    <message id="plan_untouched">
+        <source></source>
+        <translation>nothing is written</translation>
+    </message>
+    <message id="plan_all_lost">
+        <source></source>
+        <translation>loses all data</translation>
+    </message>
+    <message id="plan_keeps_data">
+        <source></source>
+        <translation>keeps its data, leaves the array</translation>
+    </message>
+    <message id="plan_read">
+        <source></source>
+        <translation>is read, keeps its data</translation>
+    </message>
+    <message id="plan_overwritten">
+        <source></source>
+        <translation>is overwritten, all data lost</translation>
+    </message>
+    <message id="plan_overwrites">
+        <source></source>
+        <translation>overwrites</translation>
+    </message>
+    <message id="plan_too_small">
+        <source></source>
+        <translation>Too small by %1 sectors.</translation>
+    </message>
+    <message id="plan_record_inside_mirror">
+        <source></source>
+        <translation>The copy reaches the place of its RAID record.</translation>
+    </message>
+    <message id="plan_larger_than_used">
+        <source></source>
+        <translation>Only part of this disk is used: its RAID record lies before the end.</translation>
+    </message>
+    <message id="plan_foreign_sectors">
+        <source></source>
+        <translation>Its sectors do not have 512 bytes.</translation>
+    </message>
+    <message id="copy_failed">
+        <source></source>
+        <translation>The safety copy of the RAID records could not be written: %1. Go on without it?</translation>
+    </message>
+    <message id="too_small_for_rebuild_1">
+        <source></source>
+        <translation>Disk 1 is too small by %1 sectors.</translation>
+    </message>
+    <message id="too_small_for_rebuild_2">
+        <source></source>
+        <translation>Disk 2 is too small by %1 sectors.</translation>
+    </message>
+    <message id="restart_named">
+        <source></source>
+        <translation>Restart %1</translation>
+    </message>
 </context>
 </TS>

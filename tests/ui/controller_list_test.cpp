@@ -203,8 +203,11 @@ TEST_F(list, EntryOfABridgeThatHasMovedInTheMapIsIgnored) {
         const lock_scope lock(j.records);
         std::swap(j.controller_map[0].second, j.controller_map[1].second);
     }
+    const QString shown = window->controllerselectbox->currentText();
     choose(1);
     EXPECT_EQ(current(), 0x100U);
+    EXPECT_EQ(window->controllerselectbox->currentText(), shown)
+        << "the box names the bridge that is acted on";
 }
 
 TEST_F(list, EntryBeyondTheMapOrTheChipsIsIgnored) {

@@ -108,8 +108,8 @@ TEST_F(panel, InputBehindItIsDropped) {
     int clicked = 0;
     QObject::connect(&behind, &QPushButton::clicked, &behind, [&clicked] { ++clicked; });
     open([this] {
-        QTest::mouseClick(&behind, Qt::LeftButton);
         QTest::keyClick(&behind, Qt::Key_Space);
+        QTest::mouseClick(&behind, Qt::LeftButton);
         dismiss();
     });
     EXPECT_EQ(clicked, 0);
@@ -155,6 +155,15 @@ TEST_F(panel, LongTextMakesItTaller) {
         dismiss();
     });
     run_panel(&window, guard, request);
+}
+
+TEST_F(panel, WithoutAPlanIsTheSmallOne) {
+    open([this] {
+        EXPECT_EQ(guard.topmost_panel()->size(), QSize(520, 196));
+        EXPECT_EQ(guard.topmost_panel()->findChild<QWidget*>(QStringLiteral("plan_card_1")),
+                  nullptr);
+        dismiss();
+    });
 }
 
 TEST_F(panel, NothingIsDismissedWithoutOne) {

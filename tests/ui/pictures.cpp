@@ -1,5 +1,6 @@
 // Writes pictures of the window in its states: ui_pictures FOLDER [LANGUAGE].
 #include <QApplication>
+#include <QTimer>
 #include <QTranslator>
 
 #include "app/krview.h"
@@ -23,7 +24,7 @@ protected:
         install_language(translator, language);
         string_table table;
         table.load(translated);
-        model_test::SetUp();
+        model_test::SetUp(); // NOLINT(bugprone-parent-virtual-call): texts come before the window
         for (const auto keys : {designed_keys(), window_keys()}) {
             for (const std::string_view key : keys) {
                 texts.set(std::string(key), table.text(key));
@@ -55,6 +56,30 @@ protected:
         chip.disks[1].serial = "WD-WCC4M5PR81TC";
         chip.raid_mode = mode0;
         chip.raid_capacity = two_terabytes - 16;
+    }
+
+    // Asks for a change of the current chip and saves the panel over the window.
+    void save_panel(const char* name, array_change what, int mode, const char* question) {
+        const std::optional<chip_snapshot> current = j.current_chip();
+        const change_plan plan =
+            plan_change(what, mode, &current->chip, "Kestrel Duo (S/N: ABC123)");
+        ask(name, {panel_kind::warning,
+                   translated("warning"),
+                   translated(question),
+                   {translated("ok"), translated("cancel")},
+                   describe(plan, true, texts)});
+    }
+
+    void ask(const char* name, const panel_request& request) {
+        window->update_controller_list();
+        window->update_raid_information();
+        input_guard guard;
+        const std::function<void()> visit = [this, name, &guard] {
+            save(name);
+            dismiss_topmost_panel(guard);
+        };
+        QTimer::singleShot(0, window->mainview, visit);
+        run_panel(window->mainview, guard, request);
     }
 
     QString folder;
@@ -129,6 +154,79 @@ TEST_F(pictures, Rebuilding) {
     window->update_raid_information();
     window->updatepoll(1000, 374, false);
     save("rebuild");
+}
+
+TEST_F(pictures, ConfirmCreating) {
+    show_chip([this](krchip& chip) { disks(chip, 0, 0); });
+    save_panel("panel-create", array_change::create, mode_raid1, "all_data_lost");
+}
+
+TEST_F(pictures, ConfirmDeletingAStripe) {
+    show_chip([this](krchip& chip) {
+        disks(chip, 1, 1);
+        chip.raid_valid = 1;
+    });
+    save_panel("panel-delete-stripe", array_change::clear_array, 0, "all_data_lost");
+}
+
+TEST_F(pictures, ConfirmDeletingAMirror) {
+    show_chip([this](krchip& chip) {
+        disks(chip, 2, 2);
+        chip.raid_valid = 1;
+    });
+    save_panel("panel-delete-mirror", array_change::clear_array, 0, "all_data_lost");
+}
+
+TEST_F(pictures, ConfirmWiping) {
+    show_chip([this](krchip& chip) { disks(chip, 1, 0); });
+    save_panel("panel-wipe", array_change::clear_disk1, 0, "all_data_lost");
+}
+
+TEST_F(pictures, ConfirmACopyWithWarnings) {
+    show_chip([this](krchip& chip) {
+        disks(chip, 2, 2);
+        chip.disks[0].serial = "W1234567890123456789";
+        chip.disks[1].model = "WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW";
+        chip.disks[1].capacity = chip.disks[0].raid_capacity - 344;
+        chip.disks[1].lba48_sectors = two_terabytes;
+        chip.disks[1].logical_sector_bytes = 4096;
+    });
+    save_panel("panel-copy-warnings", array_change::rebuild0to1, 0, "disk1_to_disk2");
+}
+
+TEST_F(pictures, ConfirmACopy) {
+    show_chip([this](krchip& chip) { disks(chip, 2, 2); });
+    save_panel("panel-copy", array_change::rebuild0to1, 0, "disk1_to_disk2");
+    save_panel("panel-copy-back", array_change::rebuild1to0, 0, "disk2_to_disk1");
+}
+
+TEST_F(pictures, ConfirmACopyWithoutItsTarget) {
+    show_chip([this](krchip& chip) {
+        disks(chip, 0, 2);
+        chip.disks[0] = krdisk();
+    });
+    save_panel("panel-copy-absent", array_change::rebuild1to0, 0, "disk2_to_disk1");
+}
+
+TEST_F(pictures, CopyFailure) {
+    std::string message = translated("copy_failed");
+    message.replace(message.find("%1"), 2,
+                    "/home/somebody/.local/state/kestrelraid/safety-copies/"
+                    "2026-11-21T08-55-01-WD-WCC4M0XJ2K7L.json: No space left on device");
+    ask("panel-copy-failed", {panel_kind::warning,
+                              translated("warning"),
+                              message,
+                              {translated("ok"), translated("cancel")},
+                              {}});
+}
+
+TEST_F(pictures, Failure) {
+    show_chip([this](krchip& chip) { disks(chip, 2, 2); });
+    ask("panel-error", {panel_kind::error,
+                        translated("error"),
+                        translated("rebuild_error"),
+                        {translated("ok")},
+                        {}});
 }
 
 } // namespace

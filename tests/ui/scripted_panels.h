@@ -18,7 +18,10 @@ public:
     // Runs while the coming panels are open.
     void while_open(std::function<void()> action) { action_ = std::move(action); }
 
+    panel_request last; // that was asked
+
     int ask(const panel_request& request) override {
+        last = request;
         static constexpr const char* kinds[] = {"warning", "error", "attention"};
         std::string line = std::string("panel ") + kinds[static_cast<int>(request.kind)] + " [" +
                            request.title + "] " + request.message;

@@ -158,6 +158,7 @@ TEST_F(body, ActionsPressedMeanwhileAreNotCarriedOut) {
         window->refresh_button->click();
     });
     EXPECT_EQ(window->guitab->currentIndex(), 0);
+    EXPECT_EQ(window->raidconfigradiobutton->selected_row(), 0) << "the row that counts is shown";
     EXPECT_EQ(worker_log.count("thread started"), 1U);
     EXPECT_TRUE(window->idle());
 }

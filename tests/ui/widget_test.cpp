@@ -1,6 +1,9 @@
 // The widgets of our own, each by itself.
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTest>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QWheelEvent>
 #include <gmock/gmock.h>
 
@@ -13,6 +16,25 @@
 
 namespace {
 
+// What a tip shows on the screen.
+QString shown_by_tip(const QString& tip) {
+    QString text =
+        Qt::mightBeRichText(tip) ? QTextDocumentFragment::fromHtml(tip).toPlainText() : tip;
+    return text.replace(QChar::Nbsp, QLatin1Char(' '));
+}
+
+TEST(text_field, ThatIsTooLongShowsItsBeginningAndItsEnd) {
+    text_field field(nullptr);
+    field.resize(100, 20);
+    const QString text = QStringLiteral("WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW");
+    field.set_value(text);
+    const QImage cut = field.grab().toImage();
+    field.set_value(field.fontMetrics().elidedText(text, Qt::ElideMiddle, 100));
+    EXPECT_EQ(cut, field.grab().toImage());
+    field.set_value(QString());
+    EXPECT_NE(cut, field.grab().toImage());
+}
+
 TEST(text_field, ShowsMarkupAsPlainText) {
     text_field field(nullptr);
     field.set_value(QStringLiteral("<b>bold</b>"));
@@ -23,9 +45,11 @@ TEST(text_field, ShowsMarkupAsPlainText) {
 TEST(text_field, ThatIsTooLongIsWholeInItsTip) {
     text_field field(nullptr);
     field.resize(40, 20);
-    field.set_value(QStringLiteral("<a very long name of a disk>"));
-    EXPECT_EQ(field.toolTip(), QStringLiteral("&lt;a very long name of a disk&gt;"));
-    EXPECT_FALSE(field.grab().isNull());
+    for (const char* text : {"<b>a very long</b> name", "AT&T, a very long name",
+                             "a very long name  (S/N: 1)", "&lt;a very long name&gt;"}) {
+        field.set_value(QLatin1String(text));
+        EXPECT_EQ(shown_by_tip(field.toolTip()), QLatin1String(text));
+    }
     field.set_value(QStringLiteral("a"));
     EXPECT_EQ(field.toolTip(), QString());
 }
@@ -83,10 +107,47 @@ TEST(radio_matrix, BeginsWithTheFirstRow) {
     EXPECT_EQ(matrix.selected_row(), 0);
 }
 
+TEST(radio_matrix, PutsTheRowBackThatItsDelegateRefuses) {
+    radio_matrix matrix(nullptr);
+    matrix.select_row(1);
+    matrix.set_delegate([] { return false; });
+    matrix.click_row(3);
+    EXPECT_EQ(matrix.selected_row(), 1);
+}
+
+TEST(radio_matrix, HearsOfAChoiceThatIsMadeWithoutAClick) {
+    radio_matrix matrix(nullptr);
+    int chosen = 0;
+    matrix.set_delegate([&chosen] {
+        ++chosen;
+        return true;
+    });
+    matrix.findChild<QRadioButton*>(QStringLiteral("raidconfigradiobutton_row2"))->toggle();
+    EXPECT_EQ(matrix.selected_row(), 2);
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST(radio_matrix, TakesThePrimaryButtonInsideTheRowOnly) {
+    radio_matrix matrix(nullptr);
+    QWidget* row = matrix.childAt(200, 3 * 49 + 40);
+    ASSERT_NE(row, nullptr);
+    while (row->parentWidget() != &matrix) {
+        row = row->parentWidget();
+    }
+    QTest::mouseClick(row, Qt::RightButton, {}, QPoint(5, 5));
+    QTest::mouseRelease(row, Qt::LeftButton, {}, QPoint(5, -30));
+    EXPECT_EQ(matrix.selected_row(), 0);
+    QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(matrix.selected_row(), 3);
+}
+
 TEST(radio_matrix, HasOneRowChosenAtATime) {
     radio_matrix matrix(nullptr);
     int chosen = 0;
-    matrix.set_delegate([&chosen] { ++chosen; });
+    matrix.set_delegate([&chosen] {
+        ++chosen;
+        return true;
+    });
     matrix.click_row(2);
     EXPECT_EQ(matrix.selected_row(), 2);
     EXPECT_EQ(chosen, 1);

@@ -1,0 +1,165 @@
+// Changes of the array: asked for, confirmed, carried out.
+#include "app/controller.h"
+#include "app/controller_box.h"
+#include "app/display_text.h"
+#include "app/radio_matrix.h"
+#include "app/safety_copy.h"
+#include "model/krtool.h"
+
+namespace {
+
+// Rows 0 to 2 are RAID 0, RAID 1 and span; row 3 and no row (-1) are modes that delete.
+int mode_of_row(int row) {
+    const int number = row + 1;
+    return number < 3 ? number : row + 2;
+}
+
+} // namespace
+
+void controller::confirm() {
+    const int mode = mode_of_row(raidconfigradiobutton->selected_row());
+    const change_plan plan = plan_for_selected(array_change::create, mode);
+    if (!granted("all_data_lost", plan)) {
+        return;
+    }
+    const outcome end = carry_out(plan, [this, mode](std::int32_t chip) {
+        cleargui();
+        disablegui(false);
+        return j.build_raid(chip, mode, true);
+    });
+    report_and_refresh(end, "raid_create_error");
+}
+
+void controller::clearconfiguration() {
+    const change_plan plan = plan_for_selected(array_change::clear_array, 0);
+    if (!granted("all_data_lost", plan)) {
+        return;
+    }
+    const outcome end = carry_out(plan, [this](std::int32_t chip) {
+        cleargui();
+        return j.clear_raid(chip);
+    });
+    report_and_refresh(end, "raid_delete_error");
+}
+
+void controller::rebuild0to1() {
+    rebuild(array_change::rebuild0to1, "disk1_to_disk2");
+}
+
+void controller::rebuild1to0() {
+    rebuild(array_change::rebuild1to0, "disk2_to_disk1");
+}
+
+void controller::rebuild(array_change direction, const char* question) {
+    const change_plan plan = plan_for_selected(direction, 0);
+    if (!granted(question, plan)) {
+        return;
+    }
+    const outcome end = carry_out(plan, [direction](std::int32_t) {
+        krchip* chip = j.selected();
+        return chip != nullptr && chip->rebuild(direction == array_change::rebuild1to0);
+    });
+    report_and_refresh(end, "rebuild_error");
+}
+
+void controller::cleardisk0() {
+    cleardisk(array_change::clear_disk0, false);
+}
+
+void controller::cleardisk1() {
+    cleardisk(array_change::clear_disk1, true);
+}
+
+void controller::cleardisk(array_change what, bool port) {
+    if (!j.has_chips()) {
+        return;
+    }
+    const change_plan plan = plan_for_selected(what, 0);
+    if (!granted("all_data_lost", plan) || !plan.disks[port ? 1 : 0].present) {
+        return;
+    }
+    const outcome end = carry_out(plan, [port](std::int32_t) {
+        krchip* chip = j.selected();
+        return chip != nullptr && chip->clear_disk(port);
+    });
+    if (end == outcome::failed) {
+        report("raid_info_delete_error");
+    }
+}
+
+void controller::warmboot() {
+    as_body([this] {
+        const gate_scope gate(j.gate);
+        disablegui(false);
+        j.warm_boot();
+    });
+}
+
+change_plan controller::plan_for_selected(array_change what, int mode) const {
+    const std::optional<chip_snapshot> current = j.current_chip();
+    return plan_change(what, mode, current ? &current->chip : nullptr,
+                       controllerselectbox->currentText().toStdString());
+}
+
+bool controller::granted(const char* question, const change_plan& plan) {
+    panel_request request{panel_kind::warning, s_warning, localised(question), {s_ok, s_cancel}};
+    if (plan.has_chip) {
+        request.plan = describe(plan, check_OS_version(), j.with.texts);
+    }
+    const bool yes = answered_yes(request);
+    obey_remembered_exit();
+    return yes;
+}
+
+bool controller::answered_yes(const panel_request& request) {
+    const int answer = panels_.ask(request);
+    return answer != panel_second && answer != panel_failed;
+}
+
+controller::outcome controller::carry_out(const change_plan& plan,
+                                          const std::function<bool(std::int32_t chip)>& operation) {
+    outcome end = outcome::dropped;
+    as_body([&] {
+        const gate_scope gate(j.gate);
+        // What has changed since it was confirmed was not confirmed.
+        if (!still_holds(plan, j.selected()) || !copy_kept(plan) ||
+            !still_holds(plan, j.selected())) {
+            return;
+        }
+        end = operation(j.get_controller_num(j.current)) ? outcome::done : outcome::failed;
+    });
+    return end;
+}
+
+bool controller::copy_kept(const change_plan& plan) {
+    const krchip* chip = j.selected();
+    if (chip == nullptr) {
+        return true; // there is nothing to lose
+    }
+    const std::time_t now = j.with.clock.now();
+    const std::string trouble = copies_.keep(safety_copy_text(plan, *chip, now), now);
+    if (trouble.empty()) {
+        return true;
+    }
+    const gate_pause others_may_work(j.gate);
+    bool go_on = false;
+    ui([&] {
+        go_on = answered_yes({panel_kind::warning,
+                              s_warning,
+                              filled(localised("copy_failed"), trouble),
+                              {s_ok, s_cancel}});
+    });
+    return go_on;
+}
+
+void controller::report(const char* error) {
+    panels_.ask({panel_kind::error, s_error, localised(error), {s_ok}});
+    obey_remembered_exit();
+}
+
+void controller::report_and_refresh(outcome end, const char* error) {
+    if (end == outcome::failed) {
+        report(error);
+        refresh();
+    }
+}
