@@ -184,8 +184,9 @@ public:
 private:
     struct disk_outlets;
 
-    // What became of a change; dropped: the disks are no longer those that were confirmed.
-    enum class outcome { dropped, done, failed };
+    // What became of a change; dropped: what the window shows is no longer what was confirmed;
+    // outdated: the bays hold other disks than the window shows.
+    enum class outcome { dropped, outdated, done, failed };
 
     void ui(const std::function<void()>& step);
     void as_body(const std::function<void()>& body);
@@ -214,7 +215,9 @@ private:
     bool answered_yes(const panel_request& request);
     outcome carry_out(const change_plan& plan,
                       const std::function<bool(std::int32_t chip)>& operation);
-    bool copy_kept(const change_plan& plan);
+    outcome may_begin(const change_plan& plan);
+    static outcome compare(const change_plan& plan);
+    bool goes_on_without_copy(const std::string& trouble);
     void rebuild(array_change direction, const char* question);
     void cleardisk(array_change what, bool port);
     void report(const char* error);

@@ -121,26 +121,42 @@ controller::outcome controller::carry_out(const change_plan& plan,
     outcome end = outcome::dropped;
     as_body([&] {
         const gate_scope gate(j.gate);
-        // What has changed since it was confirmed was not confirmed.
-        if (!still_holds(plan, j.selected()) || !copy_kept(plan) ||
-            !still_holds(plan, j.selected())) {
-            return;
+        end = may_begin(plan);
+        if (end == outcome::done) {
+            end = operation(j.get_controller_num(j.current)) ? outcome::done : outcome::failed;
         }
-        end = operation(j.get_controller_num(j.current)) ? outcome::done : outcome::failed;
     });
+    if (end == outcome::outdated) {
+        refresh();
+    }
     return end;
 }
 
-bool controller::copy_kept(const change_plan& plan) {
+controller::outcome controller::may_begin(const change_plan& plan) {
+    const outcome now = compare(plan);
     const krchip* chip = j.selected();
-    if (chip == nullptr) {
-        return true; // there is nothing to lose
+    if (now != outcome::done || chip == nullptr) {
+        return now;
     }
-    const std::time_t now = j.with.clock.now();
-    const std::string trouble = copies_.keep(safety_copy_text(plan, *chip, now), now);
+    const std::time_t time = j.with.clock.now();
+    const std::string trouble = copies_.keep(safety_copy_text(plan, *chip, time), time);
     if (trouble.empty()) {
-        return true;
+        return outcome::done;
     }
+    return goes_on_without_copy(trouble) ? compare(plan) : outcome::dropped;
+}
+
+// What has changed since it was confirmed was not confirmed. A disk that was exchanged may have
+// told nobody, so the disks themselves are asked.
+controller::outcome controller::compare(const change_plan& plan) {
+    const krchip* chip = j.selected();
+    if (!still_holds(plan, chip)) {
+        return outcome::dropped;
+    }
+    return chip == nullptr || chip->same_disks_answer() ? outcome::done : outcome::outdated;
+}
+
+bool controller::goes_on_without_copy(const std::string& trouble) {
     const gate_pause others_may_work(j.gate);
     bool go_on = false;
     ui([&] {

@@ -19,10 +19,17 @@ struct identify_answer {
     block data{};
     std::int32_t status = -1;
 
+    // A positive status marks the disk present without telling who it is.
+    bool present() const { return status >= 0 && has_signature(); }
+    bool complete() const { return status == 0 && has_signature(); }
+
+private:
     bool has_signature() const {
         return static_cast<unsigned char>(data[signature_offset]) == signature;
     }
 };
+
+using both_answers = std::array<identify_answer, 2>;
 
 // The chip wants its presence registers read, with time in between, before it answers IDENTIFY.
 void wake_ports(std::uint32_t device) {
@@ -43,14 +50,25 @@ identify_answer identify(std::uint32_t device, std::int32_t port) {
     return answer;
 }
 
+bool same_disk(const krdisk& known, const identify_answer& answer) {
+    krdisk found;
+    if (answer.complete()) {
+        found.initialize(answer.data.data());
+    }
+    return answer.present() == (known.present != 0) &&
+           found.identify_model_raw == known.identify_model_raw &&
+           found.identify_serial_raw == known.identify_serial_raw &&
+           found.capacity == known.capacity;
+}
+
 } // namespace
 
 int krchip::retrievediskinformation() {
     wake_ports(device);
-    std::array<identify_answer, 2> answers;
+    both_answers answers;
     for (std::size_t port = 0; port < answers.size(); ++port) {
         answers[port] = identify(device, static_cast<std::int32_t>(port));
-        if (answers[port].status == 0 && answers[port].has_signature()) {
+        if (answers[port].complete()) {
             writeintofile("disk " + inttostring(port) + " gave a response");
             const lock_scope lock(j.records);
             disks[port].initialize(answers[port].data.data());
@@ -58,12 +76,17 @@ int krchip::retrievediskinformation() {
     }
     const lock_scope lock(j.records);
     for (std::size_t port = 0; port < answers.size(); ++port) {
-        // A positive status marks the disk present without telling who it is.
-        if (answers[port].status >= 0 && answers[port].has_signature()) {
+        if (answers[port].present()) {
             disks[port].present = 1;
         }
     }
     return 1;
+}
+
+bool krchip::same_disks_answer() const {
+    wake_ports(device);
+    const both_answers answers = {identify(device, 0), identify(device, 1)};
+    return same_disk(disks[0], answers[0]) && same_disk(disks[1], answers[1]);
 }
 
 void krchip::read_raid_info_disk(bool port) {

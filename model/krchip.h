@@ -37,6 +37,10 @@ public:
     // Asks both ports who is there. Always 1.
     int retrievediskinformation();
 
+    // Asks both ports again, in 2 seconds, and changes no record. True when the disks that answer
+    // are those of the records, and the empty bays are the same.
+    bool same_disks_answer() const;
+
     // Reads the metadata sector of the disk on `port` into its record; nothing for an absent
     // disk. A failed read, or a sector without signature, gives mode 0.
     void read_raid_info_disk(bool port);

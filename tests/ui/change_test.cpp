@@ -9,9 +9,11 @@
 
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 const std::string asked = "panel warning [warning] all_data_lost (ok) (cancel)";
 
@@ -70,6 +72,16 @@ protected:
             }
         }
         return said;
+    }
+
+    // The library calls before the first of that name.
+    lines until(const std::string& name) const {
+        lines calls = log.lines(from_library);
+        const auto end = std::find_if(calls.begin(), calls.end(), [&](const std::string& line) {
+            return line.rfind(name, 0) == 0;
+        });
+        calls.erase(end, calls.end());
+        return calls;
     }
 
     // Notes what was written to the outlets before the first sector is written.
@@ -190,16 +202,12 @@ TEST_F(change, ConfirmWithTheLastRowDeletesTheArrayAndThePanelSaysSo) {
 
 TEST_F(change, RowsAreTheModesOfTheArraysInTheirOrder) {
     constexpr std::array<int, 3> modes = {mode_raid0, mode_raid1, mode_span};
-    change_disk(0, [](krdisk& disk) { disk.capacity = 100'000; });
-    change_disk(1, [](krdisk& disk) { disk.capacity = 100'000; });
-    library.with_bridges([](memory_enclosure& all) {
-        all.disk(device, 0).size = 100'000;
-        all.disk(device, 1).size = 100'000;
-    });
     for (int row = 0; row < 3; ++row) {
+        forget_all();
+        take_chip(memory_disk(disk_a()), memory_disk(disk_b()));
         window->raidconfigradiobutton->select_row(row);
         press(window->confirmbutton);
-        EXPECT_EQ(library.sector(device, 0, 99'985)[2], modes[static_cast<std::size_t>(row)]);
+        EXPECT_EQ(library.sector(device, 0, 1999)[2], modes[static_cast<std::size_t>(row)]);
     }
 }
 
@@ -332,6 +340,26 @@ TEST_F(swapped, ArrayThatIsNoMirrorAnyMoreUnderAnOpenPanelIsNotDeleted) {
     });
 }
 
+TEST_F(swapped, DiskThatToldNobodyIsFoundOutAndEverythingIsReadAgain) {
+    for (QPushButton* button : all_buttons()) {
+        for (const bool pulled : {true, false}) {
+            take_mirror();
+            panels.while_open([this, pulled] {
+                library.with_bridges([pulled](memory_enclosure& all) {
+                    auto& bay = all.bridge(device).disks[0];
+                    bay = pulled ? std::nullopt : std::optional(memory_disk(disk_b()));
+                });
+                panels.while_open({});
+            });
+            press(button);
+            // Only what every reading of a lone mirror member does comes after it.
+            EXPECT_THAT(until("getDeviceList"), Each(Not(HasSubstr("krSet"))));
+            EXPECT_EQ(log.count("copy "), 0U) << button->objectName().toStdString();
+            EXPECT_EQ(log.count("getDeviceList"), 1U) << "the window shows what is there now";
+        }
+    }
+}
+
 class without_copy : public change {
 protected:
     const std::string question = "panel warning [warning] copy_failed (ok) (cancel)";
@@ -347,7 +375,7 @@ TEST_F(without_copy, TheUserIsToldAndAskedAndMayStop) {
     panels.answer(panel_second);
     press(window->clearconfigbutton);
     EXPECT_THAT(talk(), ElementsAre(asked, "copy not kept", question));
-    EXPECT_THAT(log.lines(from_library), IsEmpty());
+    EXPECT_EQ(writes(), 0U);
     EXPECT_THAT(take_outlets(), IsEmpty());
 }
 
@@ -366,7 +394,20 @@ TEST_F(without_copy, DiskSwappedUnderTheSecondQuestionMeansThatNothingIsWritten)
     });
     press(window->clearconfigbutton);
     EXPECT_EQ(open, 2);
-    EXPECT_THAT(log.lines(from_library), IsEmpty());
+    EXPECT_EQ(writes(), 0U);
+}
+
+TEST_F(without_copy, DiskExchangedUnderTheSecondQuestionIsFoundOut) {
+    int open = 0;
+    panels.while_open([&] {
+        if (++open == 2) {
+            library.with_bridges(
+                [](memory_enclosure& all) { all.bridge(device).disks[1] = memory_disk(disk_a()); });
+        }
+    });
+    press(window->clearconfigbutton);
+    EXPECT_EQ(writes(), 0U);
+    EXPECT_EQ(log.count("getDeviceList"), 1U);
 }
 
 TEST_F(change, SafetyCopyHoldsTheRecordsAsTheyWereBefore) {

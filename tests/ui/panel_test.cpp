@@ -108,9 +108,9 @@ TEST_F(panel, InputBehindItIsDropped) {
     int clicked = 0;
     QObject::connect(&behind, &QPushButton::clicked, &behind, [&clicked] { ++clicked; });
     open([this] {
-        QTest::keyClick(&behind, Qt::Key_Space);
         QTest::mouseClick(&behind, Qt::LeftButton);
-        dismiss();
+        QTest::keyClick(&behind, Qt::Key_Space);
+        guard.topmost_panel()->close();
     });
     EXPECT_EQ(clicked, 0);
     QTest::mouseClick(&behind, Qt::LeftButton);

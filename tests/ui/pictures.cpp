@@ -74,11 +74,13 @@ protected:
         window->update_controller_list();
         window->update_raid_information();
         input_guard guard;
-        const std::function<void()> visit = [this, name, &guard] {
+        QTimer visit;
+        visit.setSingleShot(true);
+        QObject::connect(&visit, &QTimer::timeout, window->mainview, [this, name, &guard] {
             save(name);
             dismiss_topmost_panel(guard);
-        };
-        QTimer::singleShot(0, window->mainview, visit);
+        });
+        visit.start();
         run_panel(window->mainview, guard, request);
     }
 

@@ -41,13 +41,15 @@ protected:
 
     // Opens the panel; `user` acts as soon as it is open, and it is dismissed if still unanswered.
     int open(const std::function<void()>& user) {
-        const std::function<void()> visit = [this, &user] {
+        QTimer visit;
+        visit.setSingleShot(true);
+        QObject::connect(&visit, &QTimer::timeout, &window, [this, &user] {
             user();
             if (shown()->isVisible()) {
                 dismiss_topmost_panel(guard);
             }
-        };
-        QTimer::singleShot(0, &window, visit);
+        });
+        visit.start();
         return run_panel(&window, guard, request);
     }
     QWidget* shown() { return guard.topmost_panel(); }
