@@ -22,18 +22,18 @@ registry_entry level_of(registry_entry entry) {
 } // namespace
 
 emulated_bridges::number_type emulated_bridges::add(const emulated_bridge& bridge) {
-    const emulated_guard guard(mutex_);
+    const mutex_scope guard(mutex_);
     bridges_.emplace(++last_, bridge);
     return last_;
 }
 
 void emulated_bridges::forget(number_type number) {
-    const emulated_guard guard(mutex_);
+    const mutex_scope guard(mutex_);
     bridges_.erase(number);
 }
 
 registry_entry emulated_bridges::entry_of(std::uint32_t device) const {
-    const emulated_guard guard(mutex_);
+    const mutex_scope guard(mutex_);
     const auto latest = std::find_if(bridges_.rbegin(), bridges_.rend(), [device](const auto& one) {
         return one.second.handle == device;
     });
@@ -41,13 +41,13 @@ registry_entry emulated_bridges::entry_of(std::uint32_t device) const {
 }
 
 std::uint32_t emulated_bridges::handle_of(number_type number) const {
-    const emulated_guard guard(mutex_);
+    const mutex_scope guard(mutex_);
     const auto found = bridges_.find(number);
     return found == bridges_.end() ? 0 : found->second.handle;
 }
 
 std::optional<emulated_bridge> emulated_bridges::owner_of(registry_entry entry) const {
-    const emulated_guard guard(mutex_);
+    const mutex_scope guard(mutex_);
     const auto found = bridges_.find(entry >> level_bits);
     return found == bridges_.end() ? std::nullopt : std::optional(found->second);
 }

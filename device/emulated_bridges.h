@@ -1,8 +1,8 @@
 // What is known of the emulated bridges, as entries of the registry.
 #pragma once
 
-#include "device/emulated_lock.h"
 #include "device/registry.h"
+#include "util/mutex.h"
 
 #include <cstdint>
 #include <map>
@@ -48,7 +48,7 @@ public:
 private:
     std::optional<emulated_bridge> owner_of(registry_entry entry) const;
 
-    mutable emulated_mutex mutex_;
+    mutable plain_mutex mutex_;
     std::map<number_type, emulated_bridge> bridges_ GUARDED_BY(mutex_);
     number_type last_ GUARDED_BY(mutex_) = 0;
 };

@@ -17,6 +17,7 @@ const std::string bus_name = "org.freedesktop.DBus";
 const std::string bus_path = "/org/freedesktop/DBus";
 
 constexpr std::chrono::seconds answer_limit{5};
+constexpr std::chrono::seconds ask_again_pause{1};
 constexpr std::size_t most_bridges = 256;
 constexpr std::size_t longest_name = 127;
 constexpr std::size_t longest_serial = 255;
@@ -116,22 +117,29 @@ void emulated_bus::owner_changed(const std::string& owner) {
     }
     all_departed();
     owner_ = owner;
-    if (!owner_.empty()) {
-        enumerate();
+    asked_in_vain_ = !owner_.empty() && !enumerate();
+    if (asked_in_vain_) {
+        print_err("enclosure service does not list its bridges and is asked again; restart it if "
+                  "they stay away\n");
     }
 }
 
-void emulated_bus::enumerate() {
+void emulated_bus::ask_again() {
+    if (asked_in_vain_) {
+        asked_in_vain_ = !enumerate();
+    }
+}
+
+// False: the service did not answer.
+bool emulated_bus::enumerate() {
     std::map<sdbus::ObjectPath, interfaces> objects;
     try {
         sdbus::createProxy(*connection_, owner_, service_root)
             ->callMethod("GetManagedObjects")
             .onInterface(manager_interface)
             .storeResultsTo(objects);
-    } catch (const sdbus::Error& error) {
-        print_err("enclosure service does not list its bridges: " + error.getMessage() +
-                  "; restart it\n");
-        return;
+    } catch (const sdbus::Error&) {
+        return false;
     }
     std::vector<emulated_bridge> found;
     for (const auto& [path, held] : objects) {
@@ -146,6 +154,7 @@ void emulated_bus::enumerate() {
     for (const emulated_bridge& bridge : found) {
         take_in(bridge);
     }
+    return true;
 }
 
 void emulated_bus::take_in(const emulated_bridge& bridge) {
@@ -204,10 +213,17 @@ void emulated_bus::all_departed() {
     }
 }
 
+int emulated_bus::poll_timeout() const {
+    const int of_bus = poll_data().getPollTimeout();
+    const auto pause = static_cast<int>(std::chrono::milliseconds(ask_again_pause).count());
+    return asked_in_vain_ && (of_bus < 0 || of_bus > pause) ? pause : of_bus;
+}
+
 bool emulated_bus::process() {
     try {
         while (connection_->processPendingRequest()) {
         }
+        ask_again();
         return true;
     } catch (const sdbus::Error&) {
         all_departed();

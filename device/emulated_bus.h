@@ -27,14 +27,18 @@ public:
     // when there is no bus.
     void listen();
 
-    // Takes in what has arrived by now. False: the bus has gone, and every bridge with it.
+    // Takes in what has arrived by now, and asks the service again that has not told its bridges
+    // so far; that may take 5 seconds. False: the bus has gone, and every bridge with it.
     bool process();
 
     // Takes in all that was sent before this call, by asking the bus something. False as above.
     bool catch_up();
 
-    // For poll(): the descriptor and its events, and the time it may take in milliseconds.
+    // For poll(): the descriptor and its events.
     sdbus::IConnection::PollData poll_data() const { return connection_->getEventLoopPollData(); }
+
+    // For poll(): after how many milliseconds process() is next needed at the latest; -1: never.
+    int poll_timeout() const;
 
 private:
     using options = std::map<std::string, sdbus::Variant>;
@@ -42,7 +46,8 @@ private:
 
     void add_matches();
     void owner_changed(const std::string& owner);
-    void enumerate();
+    bool enumerate();
+    void ask_again();
     void take_in(const emulated_bridge& bridge);
     void name_owner_changed(sdbus::Message& message);
     void object_added(sdbus::Message& message);
@@ -54,5 +59,6 @@ private:
     std::unique_ptr<sdbus::IConnection> connection_;
     std::vector<sdbus::Slot> matches_;
     std::string owner_;                  // unique name of the service; empty: there is none
+    bool asked_in_vain_ = false;         // it has not told its bridges
     std::vector<std::uint32_t> present_; // handles in the order of arrival
 };

@@ -2,7 +2,7 @@
 
 #include "device/emulated_bridges.h"
 #include "device/emulated_bus.h"
-#include "device/emulated_lock.h"
+#include "util/mutex.h"
 #include "util/print.h"
 
 #include <poll.h>
@@ -94,14 +94,14 @@ private:
     void departure(std::uint32_t handle) REQUIRES(mutex_);
 
     waker wake_up_;
-    emulated_mutex mutex_;
+    plain_mutex mutex_;
     std::unique_ptr<emulated_bus> bus_ GUARDED_BY(mutex_);
     std::map<std::uint32_t, bridge_number> present_ GUARDED_BY(mutex_); // by handle
     std::deque<bus_event> events_ GUARDED_BY(mutex_);
 };
 
 void emulated_registry::implementation::listen() {
-    const emulated_guard guard(mutex_);
+    const mutex_scope guard(mutex_);
     // The bus tells while it is being read, hence under the lock.
     auto bus = std::make_unique<emulated_bus>(emulated_bus::listener{
         [this](const emulated_bridge& bridge) REQUIRES(mutex_) { arrival(bridge); },
@@ -122,13 +122,13 @@ void emulated_registry::implementation::departure(std::uint32_t handle) {
 }
 
 bool emulated_registry::implementation::hear() {
-    const emulated_guard guard(mutex_);
+    const mutex_scope guard(mutex_);
     return bus_ && bus_->process();
 }
 
 void emulated_registry::implementation::catch_up() {
     {
-        const emulated_guard guard(mutex_);
+        const mutex_scope guard(mutex_);
         if (!bus_) {
             return;
         }
@@ -138,7 +138,7 @@ void emulated_registry::implementation::catch_up() {
 }
 
 std::optional<bus_event> emulated_registry::implementation::take_event() {
-    const emulated_guard guard(mutex_);
+    const mutex_scope guard(mutex_);
     if (events_.empty()) {
         return std::nullopt;
     }
@@ -148,18 +148,20 @@ std::optional<bus_event> emulated_registry::implementation::take_event() {
 }
 
 bool emulated_registry::implementation::arrival_is_next() {
-    const emulated_guard guard(mutex_);
+    const mutex_scope guard(mutex_);
     return !events_.empty() && events_.front().arrived;
 }
 
 void emulated_registry::implementation::wait() {
     sdbus::IConnection::PollData bus{};
+    int timeout = 0;
     {
-        const emulated_guard guard(mutex_);
+        const mutex_scope guard(mutex_);
         bus = bus_->poll_data();
+        timeout = bus_->poll_timeout();
     }
     std::array<pollfd, 2> watched{{{bus.fd, bus.events, 0}, {wake_up_.fd(), POLLIN, 0}}};
-    ::poll(watched.data(), watched.size(), bus.getPollTimeout());
+    ::poll(watched.data(), watched.size(), timeout);
     wake_up_.rest();
 }
 

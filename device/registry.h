@@ -10,13 +10,14 @@
 // answer. An entry stays valid until its bridge has left.
 using registry_entry = std::uint64_t;
 
-// Any thread, several at once. Nothing blocks for longer than a look at local data, and nothing
-// fails: what is missing is 0 or empty.
+// Any thread, several at once. Nothing fails: what is missing is 0 or empty. Nothing but entry_of
+// blocks for longer than a look at local data.
 class device_registry {
 public:
     virtual ~device_registry() = default;
 
-    // The bridge's own entry for a device handle of the access library.
+    // The bridge's own entry for a device handle of the access library. May ask the system about a
+    // bridge that has just come, 5 seconds at most for each question: not for the interface thread.
     virtual registry_entry entry_of(std::uint32_t device) = 0;
 
     virtual registry_entry parent(registry_entry entry) = 0;

@@ -43,12 +43,26 @@ void bridge_access::forget(std::uint32_t device) {
     open_.erase(device);
 }
 
+// A list of none may also mean that nobody answered in time.
+void bridge_access::forget_all_but(const std::vector<std::uint32_t>& handles) {
+    if (handles.empty()) {
+        return;
+    }
+    const std::set<std::uint32_t> former = open_;
+    for (const std::uint32_t device : former) {
+        if (std::find(handles.begin(), handles.end(), device) == handles.end()) {
+            forget(device);
+        }
+    }
+}
+
 std::int32_t bridge_access::getDeviceList(void* list, std::int32_t* count) {
     if (list == nullptr || count == nullptr) {
         return failure;
     }
     const std::lock_guard lock(mutex_);
     std::vector<std::uint32_t> handles = way_.bridges();
+    forget_all_but(handles);
     handles.resize(std::min(handles.size(), most_entries));
     std::memset(list, 0, list_size);
     for (std::size_t i = 0; i < handles.size(); ++i) {

@@ -7,13 +7,14 @@
 #include <cstdint>
 #include <mutex>
 #include <set>
+#include <vector>
 
 namespace enclosure {
 
 // Operation by operation as in device/libkrraid.h: 0 is success, -1 failure, nothing else. Any
 // thread; an inner lock lets one operation at a time through. A handle stands for the connection
 // that openConnection made: operations on one that is not open fail, and one whose bridge has
-// gone is open no longer.
+// gone is open no longer once an operation on it or the device list has shown that.
 class bridge_access {
 public:
     explicit bridge_access(transport& way) : way_(way), commands_(way) {}
@@ -43,6 +44,7 @@ public:
 private:
     template<class Operation> std::int32_t on_device(std::uint32_t device, Operation operation);
     void forget(std::uint32_t device);
+    void forget_all_but(const std::vector<std::uint32_t>& handles);
 
     std::mutex mutex_;
     transport& way_;

@@ -18,6 +18,12 @@ void check_text(const std::string& text, std::size_t longest, const std::string&
     }
 }
 
+// As a host makes it of the chip's INQUIRY: the texts joined as they are, blanks at the end off.
+std::string bridge_name(const std::string& product) {
+    const std::string joined = std::string(inquiry_vendor) + inquiry_product(product);
+    return joined.substr(0, joined.find_last_not_of(' ') + 1);
+}
+
 } // namespace
 
 void check_settings(const cabinet_settings& settings) {
@@ -33,23 +39,47 @@ void check_settings(const cabinet_settings& settings) {
 cabinet::cabinet(cabinet_settings settings)
     : settings_(std::move(settings)), faults_(bays_), chip_(bays_, faults_, settings_.product) {}
 
-void cabinet::plug(std::uint32_t handle, moment now, const std::optional<copy_progress>& before) {
+void cabinet::plug(std::uint32_t handle, moment now, const std::optional<kept_copy>& before) {
     returns_at_.reset();
     handle_ = handle;
     last_handle_ = handle;
     chip_.power_on(now, before);
 }
 
+void cabinet::settle_disks() {
+    for (int port = 0; port < ports; ++port) {
+        if (const std::shared_ptr<disk>& there = bays_.at(port)) {
+            there->settle();
+        }
+    }
+}
+
 void cabinet::unplug() {
     chip_.power_off();
+    settle_disks();
     handle_.reset();
     returns_at_.reset();
 }
 
 void cabinet::begin_restart(moment now) {
     chip_.power_off();
+    chip_.copy().forget();
     handle_.reset();
     returns_at_ = now + settings_.restart_delay;
+}
+
+bool cabinet::cut_power(moment now) {
+    begin_restart(now);
+    bool lost = true;
+    for (int port = 0; port < ports; ++port) {
+        const std::shared_ptr<disk>& there = bays_.at(port);
+        lost = (!there || there->lose_unflushed()) && lost;
+    }
+    return lost;
+}
+
+std::optional<kept_copy> cabinet::lasting_copy() const {
+    return handle_ ? chip_.lasting_copy() : std::nullopt;
 }
 
 std::optional<bridge> cabinet::on_the_bus() const {
@@ -59,7 +89,7 @@ std::optional<bridge> cabinet::on_the_bus() const {
     bridge seen;
     seen.handle = *handle_;
     seen.bus = settings_.bus;
-    seen.name = std::string(inquiry_vendor) + inquiry_product(settings_.product);
+    seen.name = bridge_name(settings_.product);
     if (settings_.bus == bus_kind::usb) {
         seen.vendor_id = settings_.vendor_id;
         seen.product_id = settings_.product_id;
@@ -73,18 +103,21 @@ std::optional<bridge> cabinet::on_the_bus() const {
 
 void cabinet::insert(int port, std::shared_ptr<disk> what) {
     bays_.insert(port, std::move(what));
-    bay_changed(port);
+    bay_changed();
 }
 
 std::shared_ptr<disk> cabinet::pull(int port) {
     std::shared_ptr<disk> taken = bays_.pull(port);
-    bay_changed(port);
+    if (taken) {
+        taken->settle();
+    }
+    bay_changed();
     return taken;
 }
 
-void cabinet::bay_changed(int port) {
+void cabinet::bay_changed() {
     if (handle_) {
-        chip_.disk_changed(port);
+        chip_.disks_changed();
     }
 }
 

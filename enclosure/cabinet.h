@@ -57,11 +57,15 @@ public:
 
     // Switches on, at `now`, with a handle that no bridge ever had.
     void plug(std::uint32_t handle, moment now,
-              const std::optional<copy_progress>& before = std::nullopt);
+              const std::optional<kept_copy>& before = std::nullopt);
     void unplug();
 
-    // Leaves the bus; returns_at() is when it wants to be plugged in again.
+    // Leaves the bus; returns_at() is when it wants to be plugged in again. The chip knows nothing
+    // of what it did before.
     void begin_restart(moment now);
+
+    // The same by a power cut. False: what was not flushed could not be taken back.
+    bool cut_power(moment now);
 
     bool plugged() const { return handle_ || returns_at_; }
     const std::optional<std::uint32_t>& handle() const { return handle_; }
@@ -70,6 +74,9 @@ public:
     // The latest handle it had; 0 when it never was plugged in.
     std::uint32_t last_handle() const { return last_handle_; }
     void restore_last_handle(std::uint32_t handle) { last_handle_ = handle; }
+
+    // Its chip's copy as it may be kept; nothing while it is not on the bus.
+    std::optional<kept_copy> lasting_copy() const;
 
     // How it appears on the bus; nothing while it is not there.
     std::optional<bridge> on_the_bus() const;
@@ -85,7 +92,8 @@ public:
     const chip& bridge_chip() const { return chip_; }
 
 private:
-    void bay_changed(int port);
+    void bay_changed();
+    void settle_disks();
 
     cabinet_settings settings_;
     bays bays_;

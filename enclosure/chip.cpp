@@ -50,10 +50,6 @@ void put_text(std::vector<std::uint8_t>& to, std::size_t at, std::size_t length,
                 to.begin() + static_cast<std::ptrdiff_t>(at));
 }
 
-scsi_reply answered(std::vector<std::uint8_t> data) {
-    return {scsi_status::good, {}, std::move(data), {}};
-}
-
 void cut(std::vector<std::uint8_t>& data, std::uint64_t length) {
     data.resize(static_cast<std::size_t>(std::min<std::uint64_t>(data.size(), length)));
 }
@@ -67,38 +63,53 @@ std::string inquiry_product(const std::string& product) {
 chip::chip(bays& disks, fault_stack& path, std::string product)
     : disks_(disks), path_(path), product_(std::move(product)), copy_(disks, path) {}
 
-void chip::power_on(moment now, const std::optional<copy_progress>& before) {
+void chip::power_on(moment now, const std::optional<kept_copy>& before) {
     restart_ = false;
     last_sense_ = sense::none;
     copy_.forget();
-    for (int port = 0; port < ports; ++port) {
-        views_[static_cast<std::size_t>(port)] = look_at(port);
-    }
-    volume_ = decide_volume(views_);
+    look_at_disks();
+    copied_pair_ = pair_of(views_);
     const std::optional<copy_order> order = decide_copy(views_);
-    const bool same =
-        before && order && before->source == order->source && before->sectors == order->sectors;
-    if (same || (before && before->done == before->sectors)) {
-        copy_.begin(*before, now);
+    if (before && goes_on(*before, order)) {
+        copy_.begin(before->progress, now);
     } else if (order) {
         copy_.begin({order->source, order->sectors, 0}, now);
     }
+}
+
+bool chip::goes_on(const kept_copy& before, const std::optional<copy_order>& order) const {
+    const copy_progress& progress = before.progress;
+    const bool wanted = order
+                            ? progress.source == order->source && progress.sectors == order->sectors
+                            : progress.done == progress.sectors;
+    return wanted && before.between == copied_pair_;
 }
 
 void chip::power_off() {
     copy_.stop();
 }
 
-void chip::disk_changed(int port) {
+void chip::disks_changed() {
     copy_.stop();
-    views_[static_cast<std::size_t>(port)] = look_at(port);
-    volume_ = decide_volume(views_);
+    look_at_disks();
+    const std::optional<copy_order> order = decide_copy(views_);
+    if (order && pair_of(views_) != copied_pair_) {
+        copied_pair_ = pair_of(views_);
+        copy_.expect(order->source, order->sectors);
+    }
+}
+
+std::optional<kept_copy> chip::lasting_copy() const {
+    if (!copy_.flush_target()) {
+        return std::nullopt;
+    }
+    return kept_copy{*copy_.progress(), copied_pair_};
 }
 
 volume chip::presented() const {
     volume seen = volume_;
     const auto& progress = copy_.progress();
-    if (seen.state == volume_state::copying && progress && progress->done == progress->sectors) {
+    if (seen.state == volume_state::copying && (!progress || progress->done == progress->sectors)) {
         seen.state = volume_state::in_order;
     }
     return seen;
@@ -115,6 +126,13 @@ std::optional<identify_block> chip::identity_at(int port) {
         return std::nullopt;
     }
     return block;
+}
+
+void chip::look_at_disks() {
+    for (int port = 0; port < ports; ++port) {
+        views_[static_cast<std::size_t>(port)] = look_at(port);
+    }
+    volume_ = decide_volume(views_);
 }
 
 port_view chip::look_at(int port) {
@@ -198,7 +216,7 @@ scsi_reply chip::request_sense(byte_view cdb) const {
 
 scsi_reply chip::read_capacity_10() const {
     constexpr std::uint64_t most = 0xFFFFFFFF; // "ask for 16 bytes"
-    const scsi_reply ready = test_ready();
+    scsi_reply ready = test_ready();
     if (ready.status != scsi_status::good) {
         return ready;
     }
@@ -213,7 +231,7 @@ scsi_reply chip::read_capacity_16(byte_view cdb) const {
     if ((cdb[1] & 0x1F) != read_capacity_action) {
         return refused(sense::invalid_field);
     }
-    const scsi_reply ready = test_ready();
+    scsi_reply ready = test_ready();
     if (ready.status != scsi_status::good) {
         return ready;
     }

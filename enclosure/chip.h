@@ -21,6 +21,12 @@ namespace enclosure {
 inline constexpr std::string_view inquiry_vendor = "Emulated";
 std::string inquiry_product(const std::string& product);
 
+// A copy as it is kept while its chip is away.
+struct kept_copy {
+    copy_progress progress;
+    copy_pair between;
+};
+
 // A state machine: it has no thread and no clock of its own, and is used by one thread at a time.
 class chip {
 public:
@@ -28,16 +34,17 @@ public:
     // outlive the chip.
     chip(bays& disks, fault_stack& path, std::string product);
 
-    // Reads both disks' records, decides the volume and begins the copy they ask for. A copy
-    // that goes on after the desk itself was away takes up its progress of before.
-    void power_on(moment now, const std::optional<copy_progress>& before = std::nullopt);
+    // Reads both disks' records, decides the volume and begins the copy they ask for. After the
+    // desk itself was away, the copy of before goes on when it is still the one asked for; one
+    // that has ended stays so as well when none is asked for any more.
+    void power_on(moment now, const std::optional<kept_copy>& before = std::nullopt);
 
     // The copy stops.
     void power_off();
 
-    // The disk in a bay was exchanged, taken out or put in. A copy stops; another begins only
-    // at the next power-on.
-    void disk_changed(int port);
+    // A disk was exchanged, taken out or put in: reads both disks' records anew. A copy stops;
+    // it or another begins only at the next power-on.
+    void disks_changed();
 
     // Carries out a command. Any bytes are safe: what is not understood is answered with a
     // check condition. At most `allocation` bytes come back.
@@ -49,10 +56,14 @@ public:
     // Goes on copying. True: more is due at `now`.
     bool advance(moment now) { return copy_.advance(now); }
 
+    // The copy for a later power_on, once what it says was copied is lasting; nothing when there
+    // is none or its target cannot be flushed.
+    std::optional<kept_copy> lasting_copy() const;
+
     mirror_copy& copy() { return copy_; }
     const mirror_copy& copy() const { return copy_; }
 
-    // A mirror whose copy has ended is in order.
+    // A mirror whose copy has ended, or has nothing to copy, is in order.
     volume presented() const;
 
 private:
@@ -77,11 +88,14 @@ private:
     std::optional<identify_block> identity_at(int port);
     bool answers(int port) const;
     port_view look_at(int port);
+    void look_at_disks();
+    bool goes_on(const kept_copy& before, const std::optional<copy_order>& order) const;
 
     bays& disks_;
     fault_stack& path_;
     std::string product_;
     mirror_copy copy_;
+    copy_pair copied_pair_; // of copy_
     port_views views_;
     volume volume_;
     sense_code last_sense_ = sense::none;

@@ -7,14 +7,6 @@
 
 namespace enclosure {
 
-namespace {
-
-scsi_reply answered(std::vector<std::uint8_t> data = {}) {
-    return {scsi_status::good, {}, std::move(data), {}};
-}
-
-} // namespace
-
 scsi_reply chip::vendor(byte_view cdb, byte_view data_out) {
     const std::optional<vendor_command> command = decode_vendor(cdb);
     if (!command) {

@@ -1,9 +1,8 @@
 #include "enclosure/command_actions.h"
 
+#include "enclosure/desk_document.h"
 #include "enclosure/problem.h"
 #include "enclosure/sizes.h"
-
-#include <nlohmann/json.hpp>
 
 #include <array>
 #include <cstdio>
@@ -80,13 +79,7 @@ identify_block identity_for(const disk_options& options) {
 }
 
 bool is_enclosure(service_client& service, const std::string& name) {
-    const auto desk = nlohmann::json::parse(service.describe());
-    for (const auto& one : desk.at("enclosures")) {
-        if (one.at("name") == name) {
-            return true;
-        }
-    }
-    return false;
+    return enclosure_in(nlohmann::json::parse(service.describe()), name) != nullptr;
 }
 
 } // namespace
@@ -139,6 +132,11 @@ void unplug(service_client& service, const std::string& enclosure) {
 void warm_boot(service_client& service, const std::string& enclosure) {
     service.warm_boot(enclosure);
     say("restarted the chip of '" + enclosure + "'");
+}
+
+void power_cut(service_client& service, const std::string& enclosure) {
+    service.power_cut(enclosure);
+    say("cut the power of '" + enclosure + "'; it comes back by itself");
 }
 
 void set_rate(service_client& service, const std::string& enclosure, const std::string& rate) {

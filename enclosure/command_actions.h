@@ -53,6 +53,7 @@ void pull_disk(service_client& service, const std::string& enclosure, std::uint3
 void plug_in(service_client& service, const std::string& enclosure);
 void unplug(service_client& service, const std::string& enclosure);
 void warm_boot(service_client& service, const std::string& enclosure);
+void power_cut(service_client& service, const std::string& enclosure);
 void set_rate(service_client& service, const std::string& enclosure, const std::string& rate);
 void change_faults(service_client& service, const fault_options& options);
 void arrange(service_client& service, const std::string& enclosure, const std::string& scenario);

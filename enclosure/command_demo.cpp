@@ -1,8 +1,7 @@
 // The set of examples.
 #include "enclosure/command_actions.h"
+#include "enclosure/desk_document.h"
 #include "enclosure/problem.h"
-
-#include <nlohmann/json.hpp>
 
 #include <array>
 #include <iostream>
@@ -29,15 +28,6 @@ constexpr std::array<example, 3> examples = {{
     {"studio", "Kestrel Studio", true, 0, "2TB", "raid1"},
     {"archive", "Kestrel Archive", false, 0xFA120000, "4TB", "raid0"},
 }};
-
-const json* enclosure_in(const json& desk, const std::string& name) {
-    for (const json& one : desk.at("enclosures")) {
-        if (one.at("name") == name) {
-            return &one;
-        }
-    }
-    return nullptr;
-}
 
 bool on_shelf(const json& desk, const std::string& name) {
     for (const json& one : desk.at("shelf")) {

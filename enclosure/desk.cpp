@@ -133,24 +133,25 @@ void desk::add_disk(const std::string& name, const identify_block& identity) {
 
 void desk::remove_disk(const std::string& name) {
     disk_named(name);
-    if (const auto where = place_of(name)) {
-        throw problem("disk '" + name + "' is in bay " + std::to_string(where->bay) + " of '" +
-                      where->enclosure + "'; pull it first");
-    }
+    check_is_free(name);
     disks_.erase(name);
     std::error_code ignored; // a missing image is no reason to keep the disk
     std::filesystem::remove(image_of(name), ignored);
     watcher_.disk_removed(name);
 }
 
+void desk::check_is_free(const std::string& name) const {
+    if (const auto where = place_of(name)) {
+        throw problem("disk '" + name + "' is in bay " + std::to_string(where->bay) + " of '" +
+                      where->enclosure + "'; pull it first");
+    }
+}
+
 void desk::insert(const std::string& enclosure, int bay, const std::string& name) {
     check_bay(bay);
     cabinet& what = cabinet_named(enclosure);
     const std::shared_ptr<disk>& which = disk_named(name);
-    if (const auto where = place_of(name)) {
-        throw problem("disk '" + name + "' is in bay " + std::to_string(where->bay) + " of '" +
-                      where->enclosure + "' already; pull it first");
-    }
+    check_is_free(name);
     if (const auto& there = what.disks().at(bay)) {
         throw problem("bay " + std::to_string(bay) + " of '" + enclosure + "' holds disk '" +
                       there->name() + "'; pull it first");
@@ -166,7 +167,7 @@ std::string desk::pull(const std::string& enclosure, int bay) {
         throw problem("bay " + std::to_string(bay) + " of '" + enclosure +
                       "' is empty; there is nothing to pull");
     }
-    const std::string name = what.pull(bay)->name();
+    std::string name = what.pull(bay)->name();
     watcher_.enclosure_changed(enclosure);
     return name;
 }
@@ -180,14 +181,14 @@ std::uint32_t desk::take_handle() {
     return handle;
 }
 
-void desk::put_on_bus(cabinet& what, moment now, const std::optional<copy_progress>& before) {
+void desk::put_on_bus(cabinet& what, moment now, const std::optional<kept_copy>& before) {
     what.plug(take_handle(), now, before);
     watcher_.enclosure_changed(what.settings().name);
     watcher_.bridge_arrived(*what.on_the_bus());
 }
 
 // Without a handle left for it, a bridge stays away as if it had been unplugged.
-void desk::return_to_bus(cabinet& what, moment now, const std::optional<copy_progress>& before) {
+void desk::return_to_bus(cabinet& what, moment now, const std::optional<kept_copy>& before) {
     if (next_handle_ <= last_handle) {
         put_on_bus(what, now, before);
     } else {
@@ -229,6 +230,20 @@ void desk::warm_boot(const std::string& enclosure, moment now) {
     leave_bus(what);
     what.begin_restart(now);
     watcher_.enclosure_changed(enclosure);
+}
+
+void desk::power_cut(const std::string& enclosure, moment now) {
+    cabinet& what = cabinet_named(enclosure);
+    if (!what.plugged()) {
+        throw problem("enclosure '" + enclosure + "' is not plugged in; plug it in first");
+    }
+    leave_bus(what);
+    const bool lost = what.cut_power(now);
+    watcher_.enclosure_changed(enclosure);
+    if (!lost) {
+        throw problem("an image file of '" + enclosure +
+                      "' cannot be written; look at its disk space");
+    }
 }
 
 void desk::set_rate(const std::string& enclosure, std::uint64_t bytes_per_second, moment now) {

@@ -55,12 +55,13 @@ public:
     std::uint32_t plug(const std::string& enclosure, moment now);
     void unplug(const std::string& enclosure);
     void warm_boot(const std::string& enclosure, moment now);
+    void power_cut(const std::string& enclosure, moment now); // it comes back as after a restart
     void set_rate(const std::string& enclosure, std::uint64_t bytes_per_second, moment now);
     void add_fault(const std::string& enclosure, const fault_rule& rule);
     std::size_t clear_faults(const std::string& enclosure); // gives how many there were
 
     // Puts the two disks of an enclosure that is not plugged in into a state; empty bays get
-    // disks first.
+    // disks first, NAME-a, NAME-b or NAME-new. Only the enclosure's own disks are changed.
     void arrange(const std::string& enclosure, scenario state);
 
     // The bridge's answer; nothing when no bridge has that handle.
@@ -94,24 +95,26 @@ public:
         std::array<std::string, ports> disks; // empty: empty bay
         bool plugged = false;
         std::uint64_t rate = mirror_copy::usual_rate;
-        std::optional<copy_progress> copy;
+        std::optional<kept_copy> copy;
         std::uint32_t last_handle = 0;
     };
     void restore_disk(const std::string& name, const identify_block& identity);
+    void restore_unknown_disk(const std::string& name, const std::string& why);
     void restore_enclosure(const former_cabinet& former, moment now);
     void restore_next_handle(std::uint32_t next);
-    std::uint32_t next_handle() const { return next_handle_; }
 
 private:
     cabinet& cabinet_named(const std::string& name) const;
     const std::shared_ptr<disk>& disk_named(const std::string& name) const;
     std::filesystem::path image_of(const std::string& disk) const;
+    void check_is_free(const std::string& disk) const;
+    void check_supply(const cabinet& what, scenario state) const;
     void assign_place(cabinet_settings& settings) const;
     std::uint32_t take_handle();
     void put_on_bus(cabinet& what, moment now,
-                    const std::optional<copy_progress>& before = std::nullopt);
+                    const std::optional<kept_copy>& before = std::nullopt);
     void return_to_bus(cabinet& what, moment now,
-                       const std::optional<copy_progress>& before = std::nullopt);
+                       const std::optional<kept_copy>& before = std::nullopt);
     void leave_bus(cabinet& what);
     bool advance_cabinet(cabinet& what, moment now);
     std::shared_ptr<disk> stocked_disk(const std::string& name);

@@ -4,6 +4,7 @@
 #include "enclosure/disk_image.h"
 #include "enclosure/disk_io.h"
 #include "enclosure/identify.h"
+#include "enclosure/unflushed_writes.h"
 
 #include <filesystem>
 #include <optional>
@@ -23,6 +24,9 @@ public:
     static disk open(std::string name, const identify_block& identity,
                      const std::filesystem::path& image);
 
+    // A disk of which nothing is known but its name, for the reason `why`: silent, as above.
+    static disk unknown(std::string name, std::string why);
+
     const std::string& name() const { return name_; }
     const identify_block& identity() const { return identity_; }
     std::uint64_t sectors() const { return sectors_; }
@@ -34,14 +38,24 @@ public:
 
     bool perform(const io_request& request);
 
+    // It had time to make everything lasting before its power went.
+    void settle() { unflushed_.settle(); }
+
+    // Its power went at once: what was written since the last flush is as if it had not been.
+    // False: the file system refused.
+    bool lose_unflushed();
+
 private:
     disk(std::string name, const identify_block& identity);
+    bool write(const io_request& request);
+    bool flush();
 
     std::string name_;
     identify_block identity_;
     std::uint64_t sectors_;
     std::optional<disk_image> image_;
     std::string missing_;
+    unflushed_writes unflushed_;
 };
 
 } // namespace enclosure

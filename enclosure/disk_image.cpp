@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <string>
-#include <system_error>
 
 namespace enclosure {
 
@@ -18,10 +17,6 @@ constexpr int open_flags = O_RDWR | O_CLOEXEC | O_NOFOLLOW;
 
 off_t byte_offset(std::uint64_t lba) {
     return static_cast<off_t>(lba * sector_size);
-}
-
-std::string reason() {
-    return std::generic_category().message(errno);
 }
 
 // Calls `transfer(at, left)` until all `size` bytes are through; interrupted and short

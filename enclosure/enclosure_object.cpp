@@ -85,6 +85,9 @@ void enclosure_object::add_bus_methods() {
     object_->registerMethod("WarmBoot").onInterface(bus::enclosure_interface).implementedAs([this] {
         on_request([&] { context_.on.warm_boot(name_, context_.clock.now()); });
     });
+    object_->registerMethod("PowerCut").onInterface(bus::enclosure_interface).implementedAs([this] {
+        on_request([&] { context_.on.power_cut(name_, context_.clock.now()); });
+    });
     object_->registerMethod("SetRate")
         .onInterface(bus::enclosure_interface)
         .withInputParamNames("bytes_per_second")

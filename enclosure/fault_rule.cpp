@@ -67,12 +67,4 @@ std::optional<io_kind> operation_named(std::string_view name) {
     return named<io_kind>(operation_names, name);
 }
 
-std::string_view name_of(fault_kind kind) {
-    return kind_names[static_cast<std::size_t>(kind)];
-}
-
-std::string_view name_of(io_kind operation) {
-    return operation_names[static_cast<std::size_t>(operation)];
-}
-
 } // namespace enclosure

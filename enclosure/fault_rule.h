@@ -37,7 +37,5 @@ void check_rule(const fault_rule& rule);
 // The kinds and operations by name: fail flip drop delay, read write flush identify.
 std::optional<fault_kind> fault_kind_named(std::string_view name);
 std::optional<io_kind> operation_named(std::string_view name);
-std::string_view name_of(fault_kind kind);
-std::string_view name_of(io_kind operation);
 
 } // namespace enclosure

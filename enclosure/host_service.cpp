@@ -66,12 +66,12 @@ void host_service::save_copies(moment now, bool at_once) {
     if (!at_once && now - saved_at_ < save_interval) {
         return;
     }
-    saved_at_ = now;
     for (const auto& [name, what] : desk_.enclosures()) {
         if (what->bridge_chip().copy().running()) {
             store_.save_enclosure(*what);
         }
     }
+    saved_at_ = context_.clock.now(); // it may have taken a while
 }
 
 void host_service::wait(int stop_fd) {

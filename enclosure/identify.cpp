@@ -1,5 +1,6 @@
 #include "enclosure/identify.h"
 
+#include "enclosure/hex.h"
 #include "enclosure/names.h"
 #include "enclosure/numbers.h"
 #include "enclosure/problem.h"
@@ -53,11 +54,12 @@ std::string text_at(const identify_block& block, std::size_t first_word, std::si
     for (std::size_t i = 0; i < length; ++i) {
         text += static_cast<char>(block[2 * first_word + (i ^ 1U)]);
     }
-    const std::size_t from = text.find_first_not_of(' ');
+    constexpr std::string_view padding(" \0", 2);
+    const std::size_t from = text.find_first_not_of(padding);
     if (from == std::string::npos) {
         return {};
     }
-    return text.substr(from, text.find_last_not_of(' ') - from + 1);
+    return text.substr(from, text.find_last_not_of(padding) - from + 1);
 }
 
 struct geometry {
@@ -119,14 +121,6 @@ std::string without_white_space(std::string_view text) {
     std::copy_if(text.begin(), text.end(), std::back_inserter(dense),
                  [](char c) { return c != ' ' && c != '\n' && c != '\r' && c != '\t'; });
     return dense;
-}
-
-int hex_digit(char c) {
-    if (c >= '0' && c <= '9') {
-        return c - '0';
-    }
-    const char lower = static_cast<char>(c | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
 } // namespace
@@ -194,17 +188,9 @@ identify_block parse_identify(std::string_view content, std::string_view what) {
         std::copy(content.begin(), content.end(), block.begin());
         return block;
     }
-    const std::string digits = without_white_space(content);
-    const bool hex =
-        digits.size() == 2 * block.size() &&
-        std::all_of(digits.begin(), digits.end(), [](char c) { return hex_digit(c) >= 0; });
-    if (!hex) {
+    if (!from_hex(without_white_space(content), block)) {
         throw problem(std::string(what) + " is no IDENTIFY block; give 512 bytes or 1024 "
                                           "hexadecimal digits");
-    }
-    for (std::size_t i = 0; i < block.size(); ++i) {
-        block[i] =
-            static_cast<std::uint8_t>(hex_digit(digits[2 * i]) << 4 | hex_digit(digits[2 * i + 1]));
     }
     return block;
 }

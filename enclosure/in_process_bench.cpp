@@ -187,6 +187,10 @@ void in_process_bench::warm_boot(const std::string& enclosure) {
     with_desk([&](desk& on) { on.warm_boot(enclosure, now_); });
 }
 
+void in_process_bench::power_cut(const std::string& enclosure) {
+    with_desk([&](desk& on) { on.power_cut(enclosure, now_); });
+}
+
 void in_process_bench::set_rate(const std::string& enclosure, std::uint64_t bytes_per_second) {
     with_desk([&](desk& on) { on.set_rate(enclosure, bytes_per_second, now_); });
 }

@@ -47,6 +47,7 @@ public:
     std::uint32_t plug(const std::string& enclosure); // gives the handle
     void unplug(const std::string& enclosure);
     void warm_boot(const std::string& enclosure);
+    void power_cut(const std::string& enclosure);
     void set_rate(const std::string& enclosure, std::uint64_t bytes_per_second);
     void add_fault(const std::string& enclosure, const fault_rule& rule);
     void clear_faults(const std::string& enclosure);

@@ -114,6 +114,8 @@ void add_bus(CLI::App& app, action& chosen) {
     simple("plug", "Plug an enclosure in", plug_in);
     simple("unplug", "Unplug an enclosure", unplug);
     simple("warmboot", "Restart the chip of an enclosure", warm_boot);
+    simple("power-cut", "Cut the power of an enclosure for a moment; unflushed writes are lost",
+           power_cut);
 }
 
 void add_trials(CLI::App& app, action& chosen) {

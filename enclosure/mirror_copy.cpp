@@ -7,7 +7,8 @@ namespace enclosure {
 
 namespace {
 
-constexpr std::uint64_t piece = 2048; // sectors of data copied at a time: 1 MiB
+constexpr std::uint64_t piece = 2048;         // sectors of data copied at a time: 1 MiB
+constexpr std::uint64_t most_empty = 1 << 21; // sectors without data skipped at a time: 1 GiB
 
 // Sectors that a rate yields in a time. A rate of up to 1e9 bytes keeps every product in 64 bits
 // for the first 500 years.
@@ -30,6 +31,19 @@ void mirror_copy::begin(const copy_progress& from, moment now) {
 void mirror_copy::forget() {
     running_ = false;
     progress_.reset();
+}
+
+void mirror_copy::expect(int source, std::uint64_t sectors) {
+    running_ = false;
+    progress_ = copy_progress{source, sectors, 0};
+}
+
+bool mirror_copy::flush_target() const {
+    if (!progress_) {
+        return false;
+    }
+    const std::shared_ptr<disk>& target = disks_.at(1 - progress_->source);
+    return target && target->answers() && target->image().flush();
 }
 
 void mirror_copy::set_rate(std::uint64_t bytes_per_second, moment now) {
@@ -74,7 +88,8 @@ std::uint64_t mirror_copy::copy_piece(std::uint64_t limit) {
         return 0;
     }
     const std::uint64_t lba = progress_->done;
-    const disk_image::extent next = source->image().extent_at(lba, limit);
+    // Bounded, so that a fault far away does not slow down what lies before it.
+    const disk_image::extent next = source->image().extent_at(lba, std::min(limit, most_empty));
     const bool faults = path_.concerns(progress_->source, lba, next.count) ||
                         path_.concerns(1 - progress_->source, lba, next.count);
     if (next.stored || faults) {

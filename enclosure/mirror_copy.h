@@ -38,6 +38,13 @@ public:
     // Forgets the last copy.
     void forget();
 
+    // Forgets it in favour of one that a later begin() is to begin.
+    void expect(int source, std::uint64_t sectors);
+
+    // Makes what was copied lasting, in the target's image file and past all faults. False: the
+    // target is not there or its file system refused.
+    bool flush_target() const;
+
     // Bytes per second, or unlimited. Holds from `now` on.
     void set_rate(std::uint64_t bytes_per_second, moment now);
     std::uint64_t rate() const { return rate_; }

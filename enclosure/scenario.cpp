@@ -53,7 +53,7 @@ void write_sector(disk& which, const sector_data& sector) {
     const std::optional<std::uint64_t> address = record_address(which.sectors());
     if (!which.answers()) {
         throw problem("disk '" + which.name() + "' does not answer (" + which.missing() +
-                      "); put its image back");
+                      "); put the file back and start the service again");
     }
     if (!address) {
         throw problem("disk '" + which.name() + "' is too small for an array; take a larger one");

@@ -1,5 +1,7 @@
 #include "enclosure/scsi.h"
 
+#include <utility>
+
 namespace enclosure {
 
 std::vector<std::uint8_t> sense_bytes(const sense_code& code) {
@@ -10,6 +12,10 @@ std::vector<std::uint8_t> sense_bytes(const sense_code& code) {
     bytes[12] = code.code;
     bytes[13] = code.qualifier;
     return bytes;
+}
+
+scsi_reply answered(std::vector<std::uint8_t> data) {
+    return {scsi_status::good, {}, std::move(data), {}};
 }
 
 scsi_reply refused(const sense_code& code) {

@@ -42,6 +42,7 @@ struct scsi_reply {
 // The 18 bytes for a code.
 std::vector<std::uint8_t> sense_bytes(const sense_code& code);
 
+scsi_reply answered(std::vector<std::uint8_t> data = {});
 scsi_reply refused(const sense_code& code);
 
 } // namespace enclosure

@@ -137,6 +137,10 @@ void service_client::warm_boot(const std::string& enclosure) {
     control(enclosure, "WarmBoot");
 }
 
+void service_client::power_cut(const std::string& enclosure) {
+    control(enclosure, "PowerCut");
+}
+
 void service_client::set_rate(const std::string& enclosure, std::uint64_t bytes_per_second) {
     control(enclosure, "SetRate", bytes_per_second);
 }

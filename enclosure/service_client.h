@@ -27,6 +27,7 @@ public:
     std::uint32_t plug(const std::string& enclosure);
     void unplug(const std::string& enclosure);
     void warm_boot(const std::string& enclosure);
+    void power_cut(const std::string& enclosure);
     void set_rate(const std::string& enclosure, std::uint64_t bytes_per_second);
     void add_fault(const std::string& enclosure, const bus::options& rule);
     std::uint32_t clear_faults(const std::string& enclosure);

@@ -1,5 +1,6 @@
 #include "enclosure/state_json.h"
 
+#include "enclosure/hex.h"
 #include "enclosure/problem.h"
 
 #include <nlohmann/json.hpp>
@@ -41,13 +42,15 @@ std::uint64_t number(const json& from, const char* name, std::uint64_t most) {
 }
 
 std::int32_t signed_number(const json& from, const char* name) {
+    using limits = std::numeric_limits<std::int32_t>;
     const json& value = field(from, name);
-    const std::int64_t held = value.is_number_integer() ? value.get<std::int64_t>() : any64 >> 1;
-    if (held < std::numeric_limits<std::int32_t>::min() ||
-        held > std::numeric_limits<std::int32_t>::max()) {
+    const bool fits = value.is_number_unsigned()
+                          ? value.get<std::uint64_t>() <= std::uint64_t{limits::max()}
+                          : value.is_number_integer() && value.get<std::int64_t>() >= limits::min();
+    if (!fits) {
         throw problem(std::string("'") + name + "' is no number in range");
     }
-    return static_cast<std::int32_t>(held);
+    return value.get<std::int32_t>();
 }
 
 std::string text(const json& from, const char* name) {
@@ -64,16 +67,6 @@ bool truth(const json& from, const char* name) {
         throw problem(std::string("'") + name + "' is neither true nor false");
     }
     return value.get<bool>();
-}
-
-std::string to_hex(const identify_block& block) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string hex;
-    for (const std::uint8_t byte : block) {
-        hex += digits[byte >> 4];
-        hex += digits[byte & 0xF];
-    }
-    return hex;
 }
 
 json bays_json(const cabinet& what) {
@@ -99,7 +92,40 @@ std::array<std::string, ports> bays_from(const json& from) {
     return names;
 }
 
-std::optional<copy_progress> copy_from(const json& from) {
+json copy_json(const kept_copy& copy) {
+    json members = json::array();
+    for (const copy_pair::member& one : copy.between.members) {
+        members.push_back({{"serial", to_hex(one.disk.serial)},
+                           {"model", to_hex(one.disk.model)},
+                           {"stamp", to_hex(one.stamp)}});
+    }
+    return {{"source", copy.progress.source},
+            {"sectors", copy.progress.sectors},
+            {"done", copy.progress.done},
+            {"between", members}};
+}
+
+void bytes_from(const json& from, const char* name, byte_room bytes) {
+    if (!from_hex(text(from, name), bytes)) {
+        throw problem(std::string("'") + name + "' has not its hexadecimal digits");
+    }
+}
+
+copy_pair pair_from(const json& from) {
+    const json& members = field(from, "between");
+    copy_pair pair;
+    if (!members.is_array() || members.size() != pair.members.size()) {
+        throw problem("'between' does not describe two disks");
+    }
+    for (std::size_t port = 0; port < pair.members.size(); ++port) {
+        bytes_from(members[port], "serial", pair.members[port].disk.serial);
+        bytes_from(members[port], "model", pair.members[port].disk.model);
+        bytes_from(members[port], "stamp", pair.members[port].stamp);
+    }
+    return pair;
+}
+
+std::optional<kept_copy> copy_from(const json& from) {
     const json& copy = field(from, "copy");
     if (copy.is_null()) {
         return std::nullopt;
@@ -109,11 +135,19 @@ std::optional<copy_progress> copy_from(const json& from) {
     progress.sectors = number(copy, "sectors", any64);
     progress.done = number(copy, "done", progress.sectors);
     check_disk_size(progress.sectors);
-    return progress;
+    return kept_copy{progress, pair_from(copy)};
+}
+
+bus_kind bus_from(const json& from) {
+    const std::string name = text(from, "bus");
+    if (name != "USB" && name != "FireWire") {
+        throw problem("'bus' is neither USB nor FireWire");
+    }
+    return name == "USB" ? bus_kind::usb : bus_kind::firewire;
 }
 
 void settings_from(const json& from, cabinet_settings& settings) {
-    settings.bus = text(from, "bus") == "FireWire" ? bus_kind::firewire : bus_kind::usb;
+    settings.bus = bus_from(from);
     settings.vendor_id = static_cast<std::uint16_t>(number(from, "vendor_id", 0xFFFF));
     settings.product_id = static_cast<std::uint16_t>(number(from, "product_id", 0xFFFF));
     if (settings.bus == bus_kind::usb) {
@@ -129,27 +163,22 @@ void settings_from(const json& from, cabinet_settings& settings) {
 
 } // namespace
 
-std::string enclosure_to_json(const cabinet& what) {
+std::string enclosure_to_json(const cabinet& what, const std::optional<kept_copy>& copy) {
     const cabinet_settings& settings = what.settings();
-    const mirror_copy& copy = what.bridge_chip().copy();
-    json state = {{"format", format},
-                  {"bus", settings.bus == bus_kind::usb ? "USB" : "FireWire"},
-                  {"vendor_id", settings.vendor_id},
-                  {"product_id", settings.product_id},
-                  {"location", settings.location.value_or(0)},
-                  {"guid", settings.guid.value_or(0)},
-                  {"serial", settings.serial},
-                  {"product", settings.product},
-                  {"restart_delay_ms", settings.restart_delay.count()},
-                  {"bays", bays_json(what)},
-                  {"plugged", what.plugged()},
-                  {"rate", copy.rate()},
-                  {"last_handle", what.last_handle()},
-                  {"copy", nullptr}};
-    if (const auto& progress = copy.progress(); progress && what.plugged()) {
-        state["copy"] = {
-            {"source", progress->source}, {"sectors", progress->sectors}, {"done", progress->done}};
-    }
+    const json state = {{"format", format},
+                        {"bus", settings.bus == bus_kind::usb ? "USB" : "FireWire"},
+                        {"vendor_id", settings.vendor_id},
+                        {"product_id", settings.product_id},
+                        {"location", settings.location.value_or(0)},
+                        {"guid", settings.guid.value_or(0)},
+                        {"serial", settings.serial},
+                        {"product", settings.product},
+                        {"restart_delay_ms", settings.restart_delay.count()},
+                        {"bays", bays_json(what)},
+                        {"plugged", what.plugged()},
+                        {"rate", what.bridge_chip().copy().rate()},
+                        {"last_handle", what.last_handle()},
+                        {"copy", copy ? copy_json(*copy) : json()}};
     return state.dump(2) + "\n";
 }
 

@@ -7,8 +7,9 @@
 
 namespace enclosure {
 
-// The texts of the state files. docs/formats-enclosure.md describes them.
-std::string enclosure_to_json(const cabinet& what);
+// The texts of the state files. docs/formats-enclosure.md describes them. `copy` is the
+// enclosure's copy as far as it is lasting.
+std::string enclosure_to_json(const cabinet& what, const std::optional<kept_copy>& copy);
 std::string disk_to_json(const disk& which);
 std::string next_handle_to_json(std::uint32_t next);
 

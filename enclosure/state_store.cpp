@@ -11,8 +11,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <fstream>
 #include <iterator>
+#include <optional>
+#include <set>
 #include <system_error>
 #include <vector>
 
@@ -22,11 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::streamsize longest_file = 65536; // bytes
-
-std::string reason() {
-    return std::generic_category().message(errno);
-}
+constexpr std::size_t longest_file = 65536; // bytes
 
 void make_folder(const fs::path& folder) {
     std::error_code trouble;
@@ -50,15 +47,62 @@ file_handle take(const fs::path& file) {
     return lock;
 }
 
-std::string content_of(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::string text(static_cast<std::size_t>(longest_file) + 1, '\0');
-    stream.read(text.data(), longest_file + 1);
-    if (stream.bad() || stream.gcount() == 0 || stream.gcount() > longest_file) {
-        throw problem("it is empty, too long or cannot be read");
+// What cannot be looked at may be there and sound, so it must not be taken for absent.
+[[noreturn]] void refuse(const fs::path& what, const std::string& why) {
+    throw problem("cannot read " + what.string() + ": " + why +
+                  "; make it readable and start again");
+}
+
+bool is_there(const fs::path& file) {
+    std::error_code trouble;
+    const bool found = fs::exists(file, trouble);
+    if (trouble) {
+        refuse(file, trouble.message());
     }
-    text.resize(static_cast<std::size_t>(stream.gcount()));
+    return found;
+}
+
+// At most one byte more than a state file may have. Nothing when it is no file.
+std::optional<std::string> content_of(const fs::path& file) {
+    const file_handle handle(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status {};
+    if (!handle || ::fstat(handle.get(), &status) != 0) {
+        refuse(file, reason());
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return std::nullopt;
+    }
+    std::string text(longest_file + 1, '\0');
+    std::size_t length = 0;
+    while (length < text.size()) {
+        const ssize_t now = ::read(handle.get(), text.data() + length, text.size() - length);
+        if (now < 0 && errno != EINTR) {
+            refuse(file, reason());
+        }
+        if (now == 0) {
+            break;
+        }
+        length += static_cast<std::size_t>(std::max<ssize_t>(now, 0));
+    }
+    text.resize(length);
     return text;
+}
+
+// Those that are called by a name and `extension`, in order.
+std::vector<fs::path> files_in(const fs::path& folder, const std::string& extension) {
+    std::vector<fs::path> files;
+    std::error_code trouble;
+    for (fs::directory_iterator at(folder, trouble), end; !trouble && at != end;
+         at.increment(trouble)) {
+        if (at->path().extension() == extension && is_name(at->path().stem().string())) {
+            files.push_back(at->path());
+        }
+    }
+    if (trouble) {
+        refuse(folder, trouble.message());
+    }
+    std::sort(files.begin(), files.end());
+    return files;
 }
 
 bool write_whole(const file_handle& file, const std::string& text) {
@@ -105,8 +149,12 @@ fs::path state_store::disk_file(const std::string& name) const {
 }
 
 template<class Reader> bool state_store::read_one(const fs::path& file, Reader reader) const {
+    const std::optional<std::string> content = content_of(file);
     try {
-        reader(content_of(file));
+        if (!content || content->empty() || content->size() > longest_file) {
+            throw problem("it is empty, too long or no file");
+        }
+        reader(*content);
         return true;
     } catch (const problem& trouble) {
         set_aside(file, trouble.what());
@@ -115,26 +163,14 @@ template<class Reader> bool state_store::read_one(const fs::path& file, Reader r
 }
 
 template<class Reader> void state_store::read_each(const fs::path& subfolder, Reader reader) const {
-    std::vector<fs::path> files;
-    std::error_code trouble;
-    for (fs::directory_iterator at(subfolder, trouble), end; !trouble && at != end;
-         at.increment(trouble)) {
-        if (at->path().extension() == ".json" && is_name(at->path().stem().string())) {
-            files.push_back(at->path());
-        }
-    }
-    if (trouble) {
-        report_("cannot list " + subfolder.string() + ": " + trouble.message());
-    }
-    std::sort(files.begin(), files.end());
-    for (const fs::path& file : files) {
+    for (const fs::path& file : files_in(subfolder, ".json")) {
         read_one(file, [&](const std::string& text) { reader(file.stem().string(), text); });
     }
 }
 
 void state_store::set_aside(const fs::path& file, const std::string& why) const {
     fs::path aside = file.string() + ".unreadable";
-    for (int i = 2; fs::exists(aside); ++i) {
+    for (int i = 2; is_there(aside); ++i) {
         aside = file.string() + ".unreadable-" + std::to_string(i);
     }
     std::error_code trouble;
@@ -143,19 +179,40 @@ void state_store::set_aside(const fs::path& file, const std::string& why) const 
             (trouble ? "; remove it" : "; kept as " + aside.filename().string()));
 }
 
-void state_store::load(desk& to, moment now) {
-    read_each(folder_ / "disks", [&](const std::string& name, const std::string& text) {
+// A disk without a usable description keeps its name, its bay and its image all the same.
+void state_store::load_disks(desk& to, const std::vector<desk::former_cabinet>& former) const {
+    read_each(image_folder(), [&](const std::string& name, const std::string& text) {
         to.restore_disk(name, disk_from_json(text));
-        if (const std::string& missing = to.disks().at(name)->missing(); !missing.empty()) {
-            report_("disk '" + name + "' counts as absent: " + missing);
-        }
     });
+    std::set<std::string> names;
+    for (const fs::path& image : files_in(image_folder(), ".img")) {
+        names.insert(image.stem().string());
+    }
+    for (const desk::former_cabinet& one : former) {
+        std::copy_if(one.disks.begin(), one.disks.end(), std::inserter(names, names.end()),
+                     [](const std::string& name) { return is_name(name); });
+    }
+    for (const std::string& name : names) {
+        if (!to.disks().contains(name)) {
+            to.restore_unknown_disk(name, "there is no usable " + disk_file(name).string());
+        }
+    }
+    for (const auto& [name, which] : to.disks()) {
+        if (!which->missing().empty()) {
+            report_("disk '" + name + "' counts as absent: " + which->missing() +
+                    "; put it back and start the service again");
+        }
+    }
+}
+
+void state_store::load(desk& to, moment now) {
     std::vector<desk::former_cabinet> former;
     read_each(folder_ / "enclosures", [&](const std::string& name, const std::string& text) {
         former.push_back(enclosure_from_json(text, name));
     });
+    load_disks(to, former);
     const fs::path counter = folder_ / "handles.json";
-    if (fs::exists(counter)) {
+    if (is_there(counter)) {
         read_one(counter, [&](const std::string& text) {
             to.restore_next_handle(next_handle_from_json(text));
         });
@@ -183,7 +240,7 @@ void state_store::remove(const fs::path& file) const {
 }
 
 void state_store::save_enclosure(const cabinet& what) {
-    write(enclosure_file(what.settings().name), enclosure_to_json(what));
+    write(enclosure_file(what.settings().name), enclosure_to_json(what, what.lasting_copy()));
 }
 
 void state_store::remove_enclosure(const std::string& name) {

@@ -24,9 +24,12 @@ public:
     // Where the image files belong.
     std::filesystem::path image_folder() const { return folder_ / "disks"; }
 
-    // Fills a new desk. An unreadable file is reported and kept aside under another name.
+    // Fills a new desk. A file whose content is of no use is reported and kept aside under
+    // another name; a disk that is left without its description is silent. Throws problem, and
+    // has changed no other file, when a file or folder that is there cannot be read.
     void load(desk& to, moment now);
 
+    // First makes lasting what its copy wrote, so that nothing counts as copied that may be lost.
     void save_enclosure(const cabinet& what);
     void remove_enclosure(const std::string& name);
     void save_disk(const disk& which);
@@ -37,6 +40,7 @@ private:
     template<class Reader>
     void read_each(const std::filesystem::path& subfolder, Reader reader) const;
     template<class Reader> bool read_one(const std::filesystem::path& file, Reader reader) const;
+    void load_disks(desk& to, const std::vector<desk::former_cabinet>& former) const;
     void set_aside(const std::filesystem::path& file, const std::string& why) const;
     void write(const std::filesystem::path& file, const std::string& text) const;
     void remove(const std::filesystem::path& file) const;

@@ -63,13 +63,15 @@ volume of_plain_disks(const port_views& views) {
 volume decide_volume(const port_views& views) {
     const bool first = in_array(views[0]);
     const bool second = in_array(views[1]);
-    if (first && second) {
-        return of_two_members(views[0], views[1]);
+    if (!first && !second) {
+        return of_plain_disks(views);
     }
-    if (first || second) {
-        return of_one_member(views[first ? 0 : 1]);
+    volume made =
+        first && second ? of_two_members(views[0], views[1]) : of_one_member(views[first ? 0 : 1]);
+    if (made.sectors == 0) {
+        made.state = volume_state::broken;
     }
-    return of_plain_disks(views);
+    return made;
 }
 
 std::optional<copy_order> decide_copy(const port_views& views) {
@@ -87,6 +89,16 @@ std::optional<copy_order> decide_copy(const port_views& views) {
         return std::nullopt;
     }
     return copy_order{static_cast<int>(source), area};
+}
+
+copy_pair pair_of(const port_views& views) {
+    copy_pair pair;
+    for (std::size_t port = 0; port < views.size(); ++port) {
+        if (in_array(views[port])) {
+            pair.members[port] = {views[port].identity, views[port].record->stamp};
+        }
+    }
+    return pair;
 }
 
 std::string_view name_of(array_kind kind) {

@@ -28,7 +28,7 @@ enum class volume_state {
     copying,  // mirror with one member to be copied to the other
     degraded, // mirror with one member
     diverged, // mirror whose members were written at different times
-    broken,   // stripe or span without its partner, or two arrays' members
+    broken,   // stripe or span without its partner, two arrays' members, or nothing in size
 };
 
 struct volume {
@@ -51,6 +51,22 @@ struct copy_order {
 
 // Nothing when no copy is asked for or there is nothing to copy.
 std::optional<copy_order> decide_copy(const port_views& views);
+
+// Which two disks a copy is between, and when their records were written: another pair, or the
+// same one with new records, has another copy. All zero for a port without a disk in an array.
+struct copy_pair {
+    struct member {
+        raw_identity disk;
+        std::array<std::uint8_t, 16> stamp{};
+
+        bool operator==(const member&) const = default;
+    };
+    std::array<member, ports> members;
+
+    bool operator==(const copy_pair&) const = default;
+};
+
+copy_pair pair_of(const port_views& views);
 
 // "RAID 1", "in order" and the like.
 std::string_view name_of(array_kind kind);

@@ -265,19 +265,19 @@
     </message>
     <message id="plan_wipe_disk_1">
         <source></source>
-        <translation>Wipes disk 1.</translation>
+        <translation>Wipes Disk 1.</translation>
     </message>
     <message id="plan_wipe_disk_2">
         <source></source>
-        <translation>Wipes disk 2.</translation>
+        <translation>Wipes Disk 2.</translation>
     </message>
     <message id="plan_copy_disk_1">
         <source></source>
-        <translation>Copies disk 1 onto disk 2.</translation>
+        <translation>Copies Disk 1 onto Disk 2.</translation>
     </message>
     <message id="plan_copy_disk_2">
         <source></source>
-        <translation>Copies disk 2 onto disk 1.</translation>
+        <translation>Copies Disk 2 onto Disk 1.</translation>
     </message>
     <message id="plan_untouched">
         <source></source>

@@ -17,6 +17,10 @@ SOURCE = os.path.join(os.path.dirname(__file__), "..", "..")
 PICTURES = os.path.join(SOURCE, "build", "pictures")
 
 
+# Array kinds as krenclosure names them, and the window's words for them.
+MODES = {"none": "not_config", "RAID 0": "raid_0", "RAID 1": "raid_1", "span": "span"}
+
+
 class Failure(Exception):
     pass
 
@@ -163,17 +167,76 @@ class Program:
                   node.get_state_set().contains(Atspi.StateType.SHOWING)]
         return panels[-1] if panels else None
 
-    def answer(self, message, seconds=60):
-        """Waits for the panel with this message and presses its default button."""
-        def there():
-            panel = self.panel()
-            return panel if panel and panel.get_description() == message else None
+    def asks(self, message):
+        """The panel in front when it has this message, or None."""
+        panel = self.panel()
+        return panel if panel and panel.get_description() == message else None
 
-        panel = wait_for(f"the panel '{message}'", there, seconds)
+    def await_panel(self, message, seconds=60):
+        return wait_for(f"the panel '{message}'", lambda: self.asks(message), seconds)
+
+    def answer(self, message, seconds=60, button="panel_default_button", picture=None):
+        """Waits for the panel with this message and presses one of its buttons."""
+        panel = self.await_panel(message, seconds)
+        if picture:
+            self.picture(picture)
         for node in descend(panel):
-            if node.get_description() == "panel_default_button":
+            if node.get_description() == button:
                 Atspi.Action.do_action(node, 0)
-        wait_for(f"the panel '{message}' to close", lambda: not there())
+        wait_for(f"the panel '{message}' to close", lambda: not self.asks(message))
+
+    def choose_row(self, row):
+        """Chooses the array to create: 0 RAID 0, 1 RAID 1, 2 span, 3 none."""
+        def button():
+            return [node for node in descend(self.widget("raidconfigradiobutton"))
+                    if node.get_role() == Atspi.Role.RADIO_BUTTON][row]
+
+        Atspi.Action.do_action(wait_for("the rows", button), 0)
+        wait_for(f"row {row} to be chosen",
+                 lambda: button().get_state_set().contains(Atspi.StateType.CHECKED))
+
+    def click(self, outlet):
+        """Clicks with the mouse where the widget is; what lies there gets it."""
+        node = self.find(outlet)
+        place = node and Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
+        if place and place.width > 0:
+            x, y = (round((at + length / 2) * self.scale)
+                    for at, length in ((place.x, place.width), (place.y, place.height)))
+            subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True, timeout=30)
+
+    def key(self, name):
+        """Presses a key, as the window that has the keyboard gets it."""
+        subprocess.run(["xdotool", "key", name], check=True, timeout=30)
+
+    def agrees(self, name, words):
+        """What the window shows of the selected enclosure is what krenclosure says of it."""
+        self.agrees_on_disks(name)
+        self._agrees_on_array(enclosures()[name], words)
+
+    def agrees_on_disks(self, name):
+        for port, bay in enumerate(enclosures()[name]["bays"]):
+            present = bool(bay and bay["present"])
+            check(f"model {port}", self.text(f"disk{port}modelfield"), bay["model"] if present else "")
+            check(f"serial {port}", self.text(f"disk{port}serialfield"), bay["serial"] if present else "")
+            size = f"{bay['sectors'] * 512 // 10**9} GB" if present else ""
+            check(f"size {port}", self.text(f"disk{port}sizefield"), size)
+
+    def _agrees_on_array(self, one, words):
+        state, mode = one["array"]["state"], words[MODES[one["array"]["mode"]]]
+        whole = state in ("in order", "copying")
+        check("array", self.text("raidmodelabel"),
+              (mode if whole else "") + (words["rebuilding"] if state == "copying" else ""))
+        shown = [self.text(f"disk{port}modefield") for port in (0, 1) if one["bays"][port]]
+        if state == "copying":
+            source = one["copy"]["source"]
+            wanted = [mode + words["rebuild_source" if port == source else "rebuild_target"] for port in (0, 1)]
+            check("modes", shown, wanted)
+        elif state == "degraded":
+            check("a degraded member", words["raid_1"] + words["degrade"] in shown, True)
+        elif state == "broken":
+            check("a broken member", any(text.endswith(words["broken"]) for text in shown), True)
+        else:
+            check("modes", set(shown), {mode + (words["degrade"] if state == "diverged" else "")})
 
     def picture(self, name):
         """Keeps a picture of the window."""

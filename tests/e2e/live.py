@@ -7,13 +7,7 @@ program = None
 
 
 def agrees(name):
-    """What the window shows of the selected enclosure is what krenclosure says of it."""
-    for port, bay in enumerate(enclosures()[name]["bays"]):
-        present = bool(bay and bay["present"])
-        check(f"model {port}", program.text(f"disk{port}modelfield"), bay["model"] if present else "")
-        check(f"serial {port}", program.text(f"disk{port}serialfield"), bay["serial"] if present else "")
-        size = f"{bay['sectors'] * 512 // 10**9} GB" if present else ""
-        check(f"size {port}", program.text(f"disk{port}sizefield"), size)
+    program.agrees(name, L)
 
 
 def an_empty_desk_shows_no_enclosure():

@@ -86,6 +86,7 @@ TEST_F(Command, EveryChangePrintsOneLine) {
     expect_done("fault box fail read --port 0 --lba 5", "fail read");
     expect_done("fault box clear", "1 fault");
     expect_done("warmboot box", "restarted");
+    expect_done("power-cut box", "cut the power");
     expect_done("pull box 1", "'b'");
     expect_done("unplug box", "unplugged");
     expect_done("remove b", "removed disk");

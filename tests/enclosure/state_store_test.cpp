@@ -3,7 +3,7 @@
 #include "enclosure/problem.h"
 
 #include "tests/enclosure/builders.h"
-#include "tests/enclosure/quiet_watcher.h"
+#include "tests/enclosure/kept_desk.h"
 #include "tests/enclosure/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -14,29 +14,6 @@ namespace enclosure {
 namespace {
 
 using namespace std::chrono_literals;
-
-// A desk that is kept, as the host service keeps it; each is one life of the service.
-class kept_desk : private quiet_watcher {
-public:
-    explicit kept_desk(const std::filesystem::path& folder)
-        : store(folder, [this](const std::string& line) { lines.push_back(line); }),
-          on(store.image_folder(), *this) {
-        store.load(on, 0s);
-    }
-
-    std::vector<std::string> lines;
-    state_store store;
-    desk on;
-
-private:
-    void enclosure_removed(const std::string& name) override { store.remove_enclosure(name); }
-    void enclosure_changed(const std::string& name) override {
-        store.save_enclosure(on.enclosure(name));
-    }
-    void disk_added(const std::string& name) override { store.save_disk(*on.disks().at(name)); }
-    void disk_removed(const std::string& name) override { store.remove_disk(name); }
-    void next_handle_changed(std::uint32_t next) override { store.save_next_handle(next); }
-};
 
 class StateStore : public testing::Test {
 protected:

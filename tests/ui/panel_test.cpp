@@ -110,7 +110,7 @@ TEST_F(panel, InputBehindItIsDropped) {
     open([this] {
         QTest::mouseClick(&behind, Qt::LeftButton);
         QTest::keyClick(&behind, Qt::Key_Space);
-        guard.topmost_panel()->close();
+        dismiss(); // NOLINT(clang-analyzer-core.CallAndMessage): QTest asks whether it has a widget
     });
     EXPECT_EQ(clicked, 0);
     QTest::mouseClick(&behind, Qt::LeftButton);
