@@ -76,7 +76,7 @@ protected:
     void press(Qt::Key key) { QTest::keyClick(shown()->focusWidget(), key); }
 
     panel_request request{panel_kind::warning, "Warning", question, {"OK", "Cancel"}, {}};
-    plan_view& view = request.plan.emplace(plan_view{"Copies disk 1 onto disk 2.",
+    plan_view& view = request.plan.emplace(plan_view{"Copies Disk 1 onto Disk 2.",
                                                      "Duo (S/N: ABC)",
                                                      {first_card(), second_card()},
                                                      plan_arrow::to_disk2,
@@ -88,7 +88,7 @@ protected:
 TEST_F(plan_panel, ShowsEveryTextOfThePlan) {
     open([this] {
         for (const char* text :
-             {question, "Copies disk 1 onto disk 2.", "Duo (S/N: ABC)", "overwrites", "Disk 1",
+             {question, "Copies Disk 1 onto Disk 2.", "Duo (S/N: ABC)", "overwrites", "Disk 1",
               "MODEL A", "S/N 1", "2.00 TB", "is read", "Disk 2", "MODEL B", "S/N 2", "4.00 TB",
               "is overwritten", "Too small.", "Odd sectors."}) {
             EXPECT_THAT(texts(), Contains(text));

@@ -52,10 +52,10 @@ TEST_F(plan_words, TellWhatWillBeDone) {
     EXPECT_EQ(heading(array_change::create, mode_raid1), "Creates a new array: RAID 1.");
     EXPECT_EQ(heading(array_change::create, mode_span), "Creates a new array: Span.");
     EXPECT_EQ(heading(array_change::clear_array), "Deletes the array.");
-    EXPECT_EQ(heading(array_change::clear_disk0), "Wipes disk 1.");
-    EXPECT_EQ(heading(array_change::clear_disk1), "Wipes disk 2.");
-    EXPECT_EQ(heading(array_change::rebuild0to1), "Copies disk 1 onto disk 2.");
-    EXPECT_EQ(heading(array_change::rebuild1to0), "Copies disk 2 onto disk 1.");
+    EXPECT_EQ(heading(array_change::clear_disk0), "Wipes Disk 1.");
+    EXPECT_EQ(heading(array_change::clear_disk1), "Wipes Disk 2.");
+    EXPECT_EQ(heading(array_change::rebuild0to1), "Copies Disk 1 onto Disk 2.");
+    EXPECT_EQ(heading(array_change::rebuild1to0), "Copies Disk 2 onto Disk 1.");
 }
 
 TEST_F(plan_words, TellWhatBecomesOfADisk) {
@@ -147,7 +147,7 @@ TEST_F(plan_words, ReadAsOneLinePerDisk) {
     plan.disks[1].fate = disk_fate::overwritten;
     plan.disks[1].missing_sectors = 344;
     plan.disks[1].foreign_sectors = true;
-    EXPECT_EQ(as_lines(view()), "Copies disk 1 onto disk 2.\n"
+    EXPECT_EQ(as_lines(view()), "Copies Disk 1 onto Disk 2.\n"
                                 "Kestrel Duo (S/N: ABC123)\n"
                                 "Disk 1: FIRST, S/N A1, 2.00 TB: is read, keeps its data\n"
                                 "Disk 2: SECOND, S/N B2, 2.00 TB: is overwritten, all data lost. "
@@ -159,7 +159,7 @@ TEST_F(plan_words, ReadAnEmptyBayWithoutASizeAndANumber) {
     plan.disks[0].fate = disk_fate::all_lost;
     plan.disks[1] = {};
     EXPECT_EQ(as_line(view().cards[1]), "Disk 2: empty bay: nothing is written");
-    EXPECT_EQ(as_lines(view()), "Wipes disk 1.\n"
+    EXPECT_EQ(as_lines(view()), "Wipes Disk 1.\n"
                                 "Kestrel Duo (S/N: ABC123)\n"
                                 "Disk 1: FIRST, S/N A1, 2.00 TB: loses all data\n"
                                 "Disk 2: empty bay: nothing is written\n");
