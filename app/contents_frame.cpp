@@ -58,8 +58,8 @@ void build_top(controller& window, QWidget* view) {
     window.controllerselectbox =
         make<controller_box>(view, "controllerselectbox", QRect(128, 20, 368, 36));
     constexpr QSize small(16, 16);
-    window.refresh_button =
-        picture_button(view, "refresh_button", QRect(504, 20, 136, 36), ":/refresh.png", small);
+    window.refresh_button = picture_button(view, "refresh_button", QRect(504, 20, 136, 36),
+                                           ":/refresh.png", QSize(20, 16));
     window.refresh_button->setShortcut(QKeySequence(Qt::Key_F5));
     window.workingindicator =
         make<working_indicator>(view, "workingindicator", QRect(652, 26, 24, 24));

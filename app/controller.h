@@ -185,7 +185,7 @@ private:
     struct disk_outlets;
 
     // What became of a change; dropped: what the window shows is no longer what was confirmed;
-    // outdated: the bays hold other disks than the window shows.
+    // outdated: nothing was done, and the bridges have to be read again.
     enum class outcome { dropped, outdated, done, failed };
 
     void ui(const std::function<void()>& step);

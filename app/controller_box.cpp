@@ -63,10 +63,19 @@ void controller_box::select(int entry) {
 }
 
 void controller_box::show_entry_of(const controller_t& identity) {
-    const auto found = std::find(identities_.begin(), identities_.end(), identity);
-    if (found != identities_.end()) {
-        select(static_cast<int>(found - identities_.begin()));
+    if (const int entry = entry_of(identity); entry >= 0) {
+        select(entry);
     }
+}
+
+QString controller_box::text_of(const controller_t& identity) const {
+    const int entry = entry_of(identity);
+    return entry >= 0 ? itemText(entry) : currentText();
+}
+
+int controller_box::entry_of(const controller_t& identity) const {
+    const auto found = std::find(identities_.begin(), identities_.end(), identity);
+    return found == identities_.end() ? -1 : static_cast<int>(found - identities_.begin());
 }
 
 const controller_t& controller_box::identity(int entry) const {

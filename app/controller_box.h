@@ -24,6 +24,8 @@ public:
     void select(int entry);
     // Selects the entry of that bridge, without telling the delegate; no such entry: as it was.
     void show_entry_of(const controller_t& identity);
+    // The entry of that bridge; without one, what stands in the box.
+    QString text_of(const controller_t& identity) const;
     // Of an entry that is there.
     const controller_t& identity(int entry) const;
 
@@ -32,6 +34,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    int entry_of(const controller_t& identity) const;
+
     std::vector<controller_t> identities_;
     std::function<void()> chosen_;
 };

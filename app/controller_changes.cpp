@@ -4,6 +4,7 @@
 #include "app/display_text.h"
 #include "app/radio_matrix.h"
 #include "app/safety_copy.h"
+#include "app/window_extras.h"
 #include "model/krtool.h"
 
 namespace {
@@ -88,8 +89,13 @@ void controller::cleardisk(array_change what, bool port) {
 }
 
 void controller::warmboot() {
-    as_body([this] {
+    const controller_t named = extras->restart_target;
+    as_body([this, &named] {
         const gate_scope gate(j.gate);
+        // The list may have changed while the click waited.
+        if (j.chips.empty() || !(j.chips.front().identity == named)) {
+            return;
+        }
         disablegui(false);
         j.warm_boot();
     });
@@ -97,8 +103,11 @@ void controller::warmboot() {
 
 change_plan controller::plan_for_selected(array_change what, int mode) const {
     const std::optional<chip_snapshot> current = j.current_chip();
-    return plan_change(what, mode, current ? &current->chip : nullptr,
-                       controllerselectbox->currentText().toStdString());
+    if (!current) {
+        return plan_change(what, mode, nullptr, {});
+    }
+    const QString enclosure = controllerselectbox->text_of(current->chip.identity);
+    return plan_change(what, mode, &current->chip, enclosure.toStdString());
 }
 
 bool controller::granted(const char* question, const change_plan& plan) {
@@ -143,15 +152,19 @@ controller::outcome controller::may_begin(const change_plan& plan) {
     if (trouble.empty()) {
         return outcome::done;
     }
-    return goes_on_without_copy(trouble) ? compare(plan) : outcome::dropped;
+    return goes_on_without_copy(trouble) ? compare(plan) : outcome::outdated;
 }
 
 // What has changed since it was confirmed was not confirmed. A disk that was exchanged may have
-// told nobody, so the disks themselves are asked.
+// told nobody, so the disks themselves are asked: last, when no monitor's panel can hold up the
+// change any more.
 controller::outcome controller::compare(const change_plan& plan) {
-    const krchip* chip = j.selected();
+    krchip* chip = j.selected();
     if (!still_holds(plan, chip)) {
         return outcome::dropped;
+    }
+    if (chip != nullptr && chip->has_monitors()) {
+        chip->stop_monitors();
     }
     return chip == nullptr || chip->same_disks_answer() ? outcome::done : outcome::outdated;
 }
@@ -160,10 +173,10 @@ bool controller::goes_on_without_copy(const std::string& trouble) {
     const gate_pause others_may_work(j.gate);
     bool go_on = false;
     ui([&] {
-        go_on = answered_yes({panel_kind::warning,
-                              s_warning,
-                              filled(localised("copy_failed"), trouble),
-                              {s_ok, s_cancel}});
+        go_on = !exit_remembered_ && answered_yes({panel_kind::warning,
+                                                   s_warning,
+                                                   filled(localised("copy_failed"), trouble),
+                                                   {s_ok, s_cancel}});
     });
     return go_on;
 }

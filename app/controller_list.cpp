@@ -7,6 +7,7 @@
 #include "app/controller_entry.h"
 #include "app/plain_text.h"
 #include "app/scene.h"
+#include "app/window_extras.h"
 #include "model/krtool.h"
 
 namespace {
@@ -52,6 +53,7 @@ void controller::update_controller_list() {
         clear_controller_list();
         j.with.pause.sleep(std::chrono::seconds(2));
         std::string first;
+        controller_t target;
         for (std::size_t i = 0; i < number_of_chips(); ++i) {
             const std::optional<krchip> chip = chip_of_entry(i);
             if (!chip) {
@@ -61,10 +63,12 @@ void controller::update_controller_list() {
             ui([&] { controllerselectbox->add_entry(one_line(text), chip->identity); });
             if (is_first(chip->identity)) {
                 first = text;
+                target = chip->identity;
             }
         }
         ui([&] {
             controllerselectbox->update();
+            extras->restart_target = target;
             show_restart_target(*this, first);
         });
     });

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QWidget>
 #include <algorithm>
 
@@ -50,6 +51,16 @@ void close_popups() {
     }
 }
 
+// A key that is held down after one panel must not answer the next.
+bool repeats_an_answer(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const auto& press = static_cast<const QKeyEvent&>(event);
+    return press.isAutoRepeat() && (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter ||
+                                    press.key() == Qt::Key_Space);
+}
+
 bool inside(const QWidget* widget, const QWidget* area) {
     return area != nullptr && (widget == area || area->isAncestorOf(widget));
 }
@@ -96,6 +107,9 @@ QWidget* input_guard::topmost_panel() const {
 bool input_guard::eventFilter(QObject* receiver, QEvent* event) {
     if (idle() || !is_input(event->type())) {
         return false;
+    }
+    if (topmost_panel() != nullptr && repeats_an_answer(*event)) {
+        return true;
     }
     const QWidget* widget = widget_of(receiver);
     return widget != nullptr && !serves(widget);

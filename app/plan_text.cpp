@@ -62,6 +62,9 @@ std::vector<std::string> warnings_of(const planned_disk& disk, const text_lookup
     if (disk.record_inside_mirror) {
         lines.push_back(texts.text("plan_record_inside_mirror"));
     }
+    if (disk.copy_unfinished) {
+        lines.push_back(texts.text("plan_copy_unfinished"));
+    }
     if (disk.larger_than_used) {
         lines.push_back(texts.text("plan_larger_than_used"));
     }

@@ -83,6 +83,8 @@ std::string disk_text(const krdisk& disk, const char* bay) {
     text += "Serial: " + text_of(disk.serial) + "\n";
     text += "Capacity: " + inttostring(disk.capacity) + " sectors\n";
     text += "Record at sector: " + inttostring(disk.metadata_lba()) + "\n";
+    text += std::string("Record: ") +
+            (disk.raid_info_raw.has_signature() ? "valid" : "none, or not readable") + "\n";
     text += "SHA-256 of the record: " + sha256(disk.raid_info_raw) + "\n";
     return text + dump(disk.raid_info_raw);
 }

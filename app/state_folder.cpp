@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <memory>
 #include <string_view>
 #include <sys/stat.h>
 #include <system_error>
@@ -34,6 +35,8 @@ public:
     ~open_file() { ::close(descriptor_); }
     open_file(const open_file&) = delete;
     open_file& operator=(const open_file&) = delete;
+
+    const fs::path& path() const { return path_; }
 
     void write(std::string_view text) const {
         while (!text.empty()) {
@@ -75,8 +78,11 @@ fs::path state_folder() {
     return state / "kestrelraid";
 }
 
+// Each folder that is missing, made lasting in the one above it.
 void make_folder(const fs::path& folder) {
-    fs::create_directories(folder.parent_path());
+    if (!fs::exists(folder.parent_path())) {
+        make_folder(folder.parent_path());
+    }
     if (::mkdir(folder.c_str(), owner_only_folder) == 0) {
         open_file(folder.parent_path(), O_RDONLY | O_DIRECTORY).sync();
     } else if (errno != EEXIST) {
@@ -96,22 +102,32 @@ std::string base_name(std::time_t now) {
 }
 
 // No copy ever takes the place of another: the second of one second gets a number.
-fs::path free_path(const fs::path& folder, const std::string& base) {
-    fs::path path = folder / (base + ".txt");
-    for (int number = 2; fs::exists(fs::symlink_status(path)); ++number) {
-        path = folder / (base + "-" + std::to_string(number) + ".txt");
-    }
-    return path;
+fs::path path_of(const fs::path& folder, const std::string& base, int number) {
+    return folder / (base + (number == 1 ? "" : "-" + std::to_string(number)) + ".txt");
 }
 
-void write_new(const fs::path& path, const std::string& text) {
+// Whoever comes first has the name; nothing is there to be looked at beforehand.
+std::unique_ptr<open_file> create_new(const fs::path& folder, const std::string& base) {
+    for (int number = 1;; ++number) {
+        try {
+            return std::make_unique<open_file>(path_of(folder, base, number),
+                                               O_WRONLY | O_CREAT | O_EXCL);
+        } catch (const std::system_error& trouble) {
+            if (trouble.code() != std::errc::file_exists) {
+                throw;
+            }
+        }
+    }
+}
+
+void write_new(const fs::path& folder, const std::string& base, const std::string& text) {
+    const std::unique_ptr<open_file> file = create_new(folder, base);
     try {
-        const open_file file(path, O_WRONLY | O_CREAT | O_EXCL);
-        file.write(text);
-        file.sync();
+        file->write(text);
+        file->sync();
     } catch (...) {
         std::error_code ignored;
-        fs::remove(path, ignored);
+        fs::remove(file->path(), ignored);
         throw;
     }
 }
@@ -122,7 +138,7 @@ std::string copies_in_state_folder::keep(const std::string& text, std::time_t no
     try {
         const fs::path folder = state_folder();
         make_folder(folder);
-        write_new(free_path(folder, base_name(now)), text);
+        write_new(folder, base_name(now), text);
         open_file(folder, O_RDONLY | O_DIRECTORY).sync();
         return {};
     } catch (const std::exception& trouble) {

@@ -51,7 +51,7 @@ constexpr std::array<std::string_view, 43> designed = {
     "device",
 };
 
-constexpr std::array<std::string_view, 40> of_the_window = {
+constexpr std::array<std::string_view, 41> of_the_window = {
     "controllers",
     "system_information",
     "devices",
@@ -92,6 +92,7 @@ constexpr std::array<std::string_view, 40> of_the_window = {
     "too_small_for_rebuild_1",
     "too_small_for_rebuild_2",
     "restart_named",
+    "plan_copy_unfinished",
 };
 
 } // namespace

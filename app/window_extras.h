@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "util/library.h"
+
 class QLabel;
 class QPushButton;
 class QWidget;
@@ -30,4 +32,5 @@ struct window_extras {
     std::array<text_field*, 2> info_modes{}; // repeat the mode fields
     titled_box* devices_box = nullptr;
     QPushButton* warmbootbutton = nullptr; // restarts the first enclosure of the list
+    controller_t restart_target;           // which that was when it was named
 };

@@ -16,6 +16,20 @@ endif()
 # Every symbol is resolved at start, so that a library that lacks one is refused at once.
 add_link_options(-Wl,-z,relro,-z,now)
 
+# kestrel_precompile(TARGET HEADERS...): large headers of others, compiled once for the target.
+function(kestrel_precompile target)
+    if(KESTREL_PCH)
+        target_precompile_headers(${target} PRIVATE ${ARGN})
+    endif()
+endfunction()
+
+# kestrel_precompiled_as(TARGET OWNER): the same headers as the owner, a target of the same kind.
+function(kestrel_precompiled_as target owner)
+    if(KESTREL_PCH)
+        target_precompile_headers(${target} REUSE_FROM ${owner})
+    endif()
+endfunction()
+
 # kestrel_library(NAME SOURCES...): one static library per folder.
 function(kestrel_library name)
     add_library(${name} STATIC ${ARGN})

@@ -5,8 +5,7 @@
 namespace {
 
 array_change carried_out(array_change what, int mode) {
-    const bool array = mode == mode_raid0 || mode == mode_raid1 || mode == mode_span;
-    return what == array_change::create && !array ? array_change::clear_array : what;
+    return what == array_change::create && !is_array_mode(mode) ? array_change::clear_array : what;
 }
 
 disk_fate fate_of_wiped(bool wiped) {
@@ -39,12 +38,11 @@ disk_fate fate_of(array_change what, const krchip& chip, std::size_t port) {
 }
 
 void compare_with_source(planned_disk& target, const krdisk& source) {
-    constexpr std::uint64_t reserved = 16; // what a mirror leaves free at the end of each disk
     const std::uint64_t needed = source.raid_capacity;
     if (needed > target.capacity) {
         target.missing_sectors = needed - target.capacity;
     } else {
-        target.record_inside_mirror = target.capacity - needed < reserved;
+        target.record_inside_mirror = target.capacity - needed < metadata_distance;
     }
 }
 
@@ -65,6 +63,8 @@ planned_disk plan_disk(array_change what, const krchip& chip, std::size_t port) 
         return plan;
     }
     plan.larger_than_used = disk.lba48_sectors > disk.capacity;
+    plan.copy_unfinished =
+        plan.fate == disk_fate::keeps_data && chip.rebuild_pending != 0 && disk.rebuild_mark == 0;
     plan.foreign_sectors = disk.logical_sector_bytes != sector_size;
     if (plan.fate == disk_fate::overwritten) {
         compare_with_source(plan, chip.disks[1 - port]);

@@ -32,6 +32,7 @@ struct planned_disk {
 
     // What the user has to know of a disk that is written to.
     bool larger_than_used = false;     // the record lies inside a part that others may use
+    bool copy_unfinished = false;      // a copy onto it still runs
     bool foreign_sectors = false;      // its sectors do not have 512 bytes
     bool record_inside_mirror = false; // the copy reaches over the place of the record
     std::uint64_t missing_sectors = 0; // too small by so many for what is copied to it

@@ -99,6 +99,8 @@ public:
     // Stops both monitors and waits for them: as long as a thread lives, and 10 seconds more
     // for a flag that no living thread will clear.
     void stop_monitors();
+    // Whether a monitor runs, or counts as running, so that stopping it may take time.
+    bool has_monitors();
     // The timer's half of the waiting.
     void await_raid1_timer();
 

@@ -27,10 +27,6 @@ std::uint64_t array_capacity(int mode, std::uint64_t c0, std::uint64_t c1) {
     }
 }
 
-bool is_array(int mode) {
-    return mode == mode_raid0 || mode == mode_raid1 || mode == mode_span;
-}
-
 bool log_size(std::uint64_t capacity) {
     const bool large = capacity >= first_large;
     j.with.console.line(large ? "Kestrel : RAID size > 2TB" : "Kestrel : RAID size < 2TB");
@@ -50,7 +46,7 @@ std::array<unsigned char, raid_time_size> present_time() {
 } // namespace
 
 bool krchip::create_raid(int mode, bool /*unused*/) {
-    if (!is_array(mode)) {
+    if (!is_array_mode(mode)) {
         return clear_raid();
     }
     const std::uint64_t capacity = array_capacity(mode, disks[0].capacity, disks[1].capacity);

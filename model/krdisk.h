@@ -55,10 +55,8 @@ public:
 
     // Where its metadata sector lies: 15 sectors before the end. A disk smaller than that, or
     // without a size, gives an address beyond any disk, which the library refuses.
-    std::uint64_t metadata_lba() const { return capacity - 15; }
+    std::uint64_t metadata_lba() const { return capacity - metadata_distance; }
 
     // Belongs to a RAID 0, RAID 1 or span.
-    bool is_member() const {
-        return raid_mode == mode_raid0 || raid_mode == mode_raid1 || raid_mode == mode_span;
-    }
+    bool is_member() const { return is_array_mode(raid_mode); }
 };

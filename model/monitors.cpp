@@ -118,6 +118,11 @@ void krchip::stop_monitors() {
     await_poller();
 }
 
+bool krchip::has_monitors() {
+    const lock_scope lock(j.records);
+    return alive(raid1_timer_alive, raid1_timer_thread) || alive(poller_alive, poller_thread);
+}
+
 void krchip::await_raid1_timer() {
     monitor_handle block;
     {

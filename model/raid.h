@@ -12,6 +12,13 @@ inline constexpr int mode_raid0 = 1;
 inline constexpr int mode_raid1 = 2;
 inline constexpr int mode_span = 4;
 
+constexpr bool is_array_mode(int mode) {
+    return mode == mode_raid0 || mode == mode_raid1 || mode == mode_span;
+}
+
+// The RAID record lies so many sectors before the end of its disk.
+inline constexpr std::uint64_t metadata_distance = 15;
+
 inline constexpr std::size_t sector_size = 512;   // bytes
 inline constexpr std::size_t serial_size = 20;    // bytes of an IDENTIFY serial number
 inline constexpr std::size_t model_size = 40;     // bytes of an IDENTIFY model

@@ -335,5 +335,9 @@
         <source></source>
         <translation>%1 neu starten</translation>
     </message>
+    <message id="plan_copy_unfinished">
+        <source></source>
+        <translation>Die Kopie auf diese Platte ist nicht abgeschlossen.</translation>
+    </message>
 </context>
 </TS>

@@ -335,5 +335,9 @@
         <source></source>
         <translation>Restart %1</translation>
     </message>
+    <message id="plan_copy_unfinished">
+        <source></source>
+        <translation>The copy onto this disk is not finished.</translation>
+    </message>
 </context>
 </TS>

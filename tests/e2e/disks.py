@@ -2,6 +2,7 @@
 
 import hashlib
 import os
+import re
 import stat
 
 SECTOR = 512
@@ -52,6 +53,19 @@ class Disk:
                 digest.update(piece)
                 left -= len(piece)
         return digest.hexdigest()
+
+
+def records_in(copy):
+    """The RAID records that a copy holds, by the serial numbers of their disks."""
+    records = {}
+    with open(copy, encoding="utf-8") as lines:
+        for line in lines:
+            if line.startswith("Serial: "):
+                serial = line.removeprefix("Serial: ").rstrip()
+                records[serial] = b""
+            elif re.match("[0-9a-f]{8}: ", line):
+                records[serial] += bytes.fromhex(line.partition(": ")[2])
+    return records
 
 
 def safety_copies():

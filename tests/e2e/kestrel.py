@@ -185,6 +185,12 @@ class Program:
                 Atspi.Action.do_action(node, 0)
         wait_for(f"the panel '{message}' to close", lambda: not self.asks(message))
 
+    def plan(self, words):
+        """What the panel in front says of either disk, as a screen reader hears it."""
+        names = [node.get_name() or "" for node in descend(self.panel())]
+        return [next((name for name in names if name.startswith(words[bay] + ": ")), None)
+                for bay in ("disk_1", "disk_2")]
+
     def choose_row(self, row):
         """Chooses the array to create: 0 RAID 0, 1 RAID 1, 2 span, 3 none."""
         def button():

@@ -2,7 +2,7 @@
 
 import os
 
-from disks import Disk, safety_copies
+from disks import Disk, records_in, safety_copies
 from kestrel import Failure, Program, check, enclosure, enclosures, run, texts, wait_for
 
 L = texts()
@@ -15,6 +15,11 @@ program = None
 changes = 0
 
 
+def without_stamp(record):
+    """A member that runs alone gets a new stamp whenever its enclosure was read; copies hold what was read."""
+    return record[:480] + record[496:]
+
+
 def array():
     return enclosures()["box"]["array"]
 
@@ -23,21 +28,29 @@ def agree():
     program.agrees("box", L)
 
 
-def change(press, message, picture):
-    """Presses, confirms, and waits for the bridge to leave and to come back."""
+def change(press, message, picture, plan):
+    """Presses, reads the plan, confirms, and waits for the bridge to leave and to come back."""
     global changes
     former = enclosures()["box"]["handle"]
+    records = {f"SERIAL-{disk.name}": without_stamp(disk.record()) for disk, _ in plan}
     press()
+    program.await_panel(message)
+    for said, (disk, fate) in zip(program.plan(L), plan):
+        check(f"'{said}' tells what becomes of {disk.name}",
+              f"SERIAL-{disk.name}" in said and said.endswith(": " + L[fate]), True)
     program.answer(message, picture=picture)
     wait_for("the bridge to return", lambda: enclosures()["box"]["handle"] not in (None, former))
     changes += 1
     check("safety copies", len(safety_copies()), changes)
+    copied = {serial: without_stamp(record) for serial, record in records_in(safety_copies()[-1]).items()}
+    check("the records in the safety copy", copied, records)
 
 
-def create(row, picture):
+def create(row, picture, *disks):
     program.choose_row(row)
     wait_for("the create button", lambda: program.enabled("confirmbutton"))
-    change(lambda: program.press("confirmbutton"), L["all_data_lost"], picture)
+    change(lambda: program.press("confirmbutton"), L["all_data_lost"], picture,
+           [(disk, "plan_all_lost") for disk in disks])
 
 
 def two_new_disks_are_in_no_array():
@@ -69,7 +82,7 @@ def what_is_refused_is_not_done():
 
 
 def a_mirror_is_created():
-    create(1, "panel-create-mirror")
+    create(1, "panel-create-mirror", a, b)
     program.await_text("raidmodelabel", L["raid_1"])
     agree()
     check("array", array(), {"mode": "RAID 1", "state": "in order", "sectors": AREA})
@@ -117,7 +130,8 @@ def it_is_copied_to_the_new_disk():
     enclosure("rate", "box", "1")
     enclosure("fault", "box", "fail", "read", "--port", "0", "--lba", str(HOLD))
     source = a.digest(0, AREA)
-    change(lambda: program.press("rebuild0to1button"), L["disk1_to_disk2"], "panel-rebuild")
+    change(lambda: program.press("rebuild0to1button"), L["disk1_to_disk2"], "panel-rebuild",
+           [(a, "plan_read"), (c, "plan_overwritten")])
     program.await_text("raidmodelabel", L["raid_1"] + L["rebuilding"])
     agree()
     wait_for("progress", lambda: 0 < percentage() < 37)
@@ -144,7 +158,8 @@ def both_disks_are_alike():
 def a_deleted_mirror_keeps_its_data():
     before = a.digest(0, AREA), c.digest(0, AREA)
     wait_for("the delete button", lambda: program.enabled("clearconfigbutton"))
-    change(lambda: program.press("clearconfigbutton"), L["all_data_lost"], "panel-delete-mirror")
+    change(lambda: program.press("clearconfigbutton"), L["all_data_lost"], "panel-delete-mirror",
+           [(a, "plan_keeps_data"), (c, "plan_keeps_data")])
     program.await_text("disk1modefield", L["not_config"])
     agree()
     check("array", array()["state"], "plain")
@@ -153,11 +168,11 @@ def a_deleted_mirror_keeps_its_data():
 
 
 def a_span_and_then_a_stripe_are_created():
-    create(2, "panel-create-span")
+    create(2, "panel-create-span", a, c)
     program.await_text("raidmodelabel", L["span"])
     agree()
     check("array", array(), {"mode": "span", "state": "in order", "sectors": SECTORS + LARGER - 65568})
-    create(0, "panel-create-stripe")
+    create(0, "panel-create-stripe", a, c)
     program.await_text("raidmodelabel", L["raid_0"])
     agree()
     check("array", array(), {"mode": "RAID 0", "state": "in order", "sectors": 2 * SECTORS - 32})
@@ -174,7 +189,8 @@ def a_disk_of_a_broken_pair_is_wiped():
     beyond, other = a.digest(64, AREA - 64), d.digest()
     wait_for("the wipe button", lambda: program.enabled("cleardisk0button"))
     check("the other wipe button", program.enabled("cleardisk1button"), False)
-    change(lambda: program.press("cleardisk0button"), L["all_data_lost"], "panel-wipe")
+    change(lambda: program.press("cleardisk0button"), L["all_data_lost"], "panel-wipe",
+           [(a, "plan_all_lost"), (d, "plan_untouched")])
     program.await_text("disk0modefield", L["not_config"])
     agree()
     check("its first sectors", a.read(0, 64), bytes(64 * 512))

@@ -18,6 +18,6 @@ void capture_diagnostics(call_log* log) {
 // The linker takes this one: it stands before util's, which has its object file to itself.
 void writeintofile(std::string line) { // NOLINT(performance-unnecessary-value-param)
     if (call_log* log = capture) {
-        log->add(from_diagnostics, "trace(" + quoted(line) + ")");
+        log->add(from_diagnostics, "trace(" + ::quoted(line) + ")");
     }
 }

@@ -342,22 +342,43 @@ TEST_F(swapped, ArrayThatIsNoMirrorAnyMoreUnderAnOpenPanelIsNotDeleted) {
 
 TEST_F(swapped, DiskThatToldNobodyIsFoundOutAndEverythingIsReadAgain) {
     for (QPushButton* button : all_buttons()) {
-        for (const bool pulled : {true, false}) {
-            take_mirror();
-            panels.while_open([this, pulled] {
-                library.with_bridges([pulled](memory_enclosure& all) {
-                    auto& bay = all.bridge(device).disks[0];
-                    bay = pulled ? std::nullopt : std::optional(memory_disk(disk_b()));
+        for (const std::size_t port : {0U, 1U}) {
+            for (const bool pulled : {true, false}) {
+                take_mirror();
+                panels.while_open([this, pulled, port] {
+                    library.with_bridges([pulled, port](memory_enclosure& all) {
+                        const memory_disk other(port == 0 ? disk_b() : disk_a());
+                        all.bridge(device).disks[port] =
+                            pulled ? std::nullopt : std::optional(other);
+                    });
+                    panels.while_open({});
                 });
-                panels.while_open({});
-            });
-            press(button);
-            // Only what every reading of a lone mirror member does comes after it.
-            EXPECT_THAT(until("getDeviceList"), Each(Not(HasSubstr("krSet"))));
-            EXPECT_EQ(log.count("copy "), 0U) << button->objectName().toStdString();
-            EXPECT_EQ(log.count("getDeviceList"), 1U) << "the window shows what is there now";
+                press(button);
+                // Only what every reading of a lone mirror member does comes after it.
+                EXPECT_THAT(until("getDeviceList"), Each(Not(HasSubstr("krSet"))));
+                EXPECT_EQ(log.count("copy "), 0U) << button->objectName().toStdString();
+                EXPECT_EQ(log.count("getDeviceList"), 1U) << "the window shows what is there now";
+            }
         }
     }
+}
+
+TEST_F(swapped, DiskExchangedWhileAMonitorsPanelHoldsUpTheChangeIsFoundOut) {
+    take_mirror();
+    threads.reset(); // the thread for hot-plug events stays away
+    {
+        const gate_scope work(j.gate);
+        j.chips[0].start_raid1_timer();
+    }
+    ASSERT_EQ(threads.waiting(), 1U);
+    // While the change waits for the timer to end.
+    pause.on_nth(1, [this] {
+        library.with_bridges(
+            [](memory_enclosure& all) { all.bridge(device).disks[1] = memory_disk(disk_a()); });
+        threads.run_next();
+    });
+    press(window->clearconfigbutton);
+    EXPECT_THAT(until("getDeviceList"), Each(Not(HasSubstr("krSet"))));
 }
 
 class without_copy : public change {
@@ -376,7 +397,7 @@ TEST_F(without_copy, TheUserIsToldAndAskedAndMayStop) {
     press(window->clearconfigbutton);
     EXPECT_THAT(talk(), ElementsAre(asked, "copy not kept", question));
     EXPECT_EQ(writes(), 0U);
-    EXPECT_THAT(take_outlets(), IsEmpty());
+    EXPECT_EQ(log.count("getDeviceList"), 1U) << "which starts the monitors again";
 }
 
 TEST_F(without_copy, TheUserMayGoOn) {
@@ -419,13 +440,25 @@ TEST_F(change, SafetyCopyHoldsTheRecordsAsTheyWereBefore) {
 }
 
 TEST_F(change, RestartDisablesEverythingAndRestartsWithoutAQuestion) {
-    watch_first_write();
+    read_named_bridge();
+    j.warm_boot_pending = false;
     press(window->extras->warmbootbutton);
     EXPECT_THAT(log.lines(from_library), ElementsAre("krWarmBoot(0x11) = 0"));
     EXPECT_THAT(talk(), IsEmpty());
     const lines shown = take_outlets();
     EXPECT_EQ(lines(shown.begin(), shown.begin() + 6), all_disabled);
     EXPECT_TRUE(j.warm_boot_pending);
+}
+
+TEST_F(change, RestartReachesNoOtherThanTheOneThatIsNamed) {
+    read_named_bridge();
+    {
+        const lock_scope lock(j.records);
+        j.chips.front().identity = usb_identity(0x999);
+    }
+    press(window->extras->warmbootbutton);
+    EXPECT_EQ(restarts(), 0U);
+    EXPECT_THAT(take_outlets(), IsEmpty());
 }
 
 TEST_F(change, RestartControlNamesTheFirstOfTheListAndIsOffWithoutOne) {

@@ -51,7 +51,7 @@ TEST(safety_copy_text, NamesTheEnclosureTheBridgeAndEachDisk) {
     EXPECT_THAT(text, HasSubstr("\nBefore: delete the array\nEnclosure: Desk (S/N: 1)\n"
                                 "Bridge: USB 1234:00ab, location 80100000\n\nDisk 1\n"
                                 "Model: MODEL\nSerial: SERIAL\nCapacity: 2014 sectors\n"
-                                "Record at sector: 1999\nSHA-256 of the record: "));
+                                "Record at sector: 1999\nRecord: none, or not readable\nSHA-256 of the record: "));
     EXPECT_THAT(text, HasSubstr("\n\nDisk 2\nnone\n"));
 }
 

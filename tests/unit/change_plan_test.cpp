@@ -193,10 +193,10 @@ TEST(ChangePlanWarning, OfATargetThatIsTooSmallTellsByHowManySectors) {
     EXPECT_EQ(target_of(huge, 0).missing_sectors, 0U);
 }
 
-TEST(ChangePlanWarning, OfARecordInsideTheMirrorBeginsWithFifteenFreeSectors) {
+TEST(ChangePlanWarning, OfARecordInsideTheMirrorBeginsWhereTheRecordWouldBeOverwritten) {
     EXPECT_TRUE(target_of(2014, 2014).record_inside_mirror);
-    EXPECT_TRUE(target_of(2014, 2014 - 15).record_inside_mirror);
-    EXPECT_FALSE(target_of(2014, 2014 - 16).record_inside_mirror);
+    EXPECT_TRUE(target_of(2014, 2014 - 14).record_inside_mirror);
+    EXPECT_FALSE(target_of(2014, 2014 - 15).record_inside_mirror);
     EXPECT_FALSE(target_of(2014, 0).record_inside_mirror);
 }
 
