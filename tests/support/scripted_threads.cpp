@@ -69,7 +69,12 @@ bool scripted_threads::start(std::function<void()> body) {
         real = real_;
         ++running_;
     }
-    return real->start([this, run = std::move(body)] { run_and_count(run); });
+    if (real->start([this, run = std::move(body)] { run_and_count(run); })) {
+        return true;
+    }
+    const mutex_scope lock(mutex_);
+    --running_;
+    return false;
 }
 
 void scripted_threads::run_and_count(const std::function<void()>& body) {

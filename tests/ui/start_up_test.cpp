@@ -10,6 +10,7 @@
 #include "app/krview.h"
 #include "app/main_window.h"
 #include "app/tab_view.h"
+#include "model/wake_point.h"
 #include "tests/ui/window_test.h"
 
 namespace {
@@ -158,12 +159,30 @@ TEST_F(ending, FatalErrorOfAnotherThreadIsShownByTheWindow) {
 }
 
 TEST_F(ending, ExitEndsWithZeroEvenWhileARebuildIsPolled) {
+    wake_point reading;
+    wake_point released;
+    threads.reset();
+    threads.run_for_real(real_threads);
     show_chip([](krchip& chip) {
+        put_disk(chip.disks[0], 2'000'000, mode_raid1);
+        put_disk(chip.disks[1], 2'000'000, mode_raid1);
+        chip.raid_valid = 1;
         chip.polling = true;
-        chip.poller_alive = true;
     });
+    library.on_nth("krGetRebuildStatus", 1, [&] {
+        reading.wake();
+        released.wait();
+    });
+    window->update_raid_information();
+    reading.wait();
     window->closebutton->click();
     EXPECT_THAT(log.lines(from_exit), ElementsAre("leave(0)"));
+    {
+        const lock_scope lock(j.records);
+        j.chips[0].polling = false;
+    }
+    released.wake();
+    on_other_thread([this] { threads.await_ends(); });
 }
 
 TEST_F(ending, ClosingTheWindowEndsWithZero) {
