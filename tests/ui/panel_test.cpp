@@ -1,5 +1,7 @@
 // Message panels, answered as a user does it.
+#include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -115,6 +117,27 @@ TEST_F(panel, InputBehindItIsDropped) {
     EXPECT_EQ(clicked, 0);
     QTest::mouseClick(&behind, Qt::LeftButton);
     EXPECT_EQ(clicked, 1);
+}
+
+TEST_F(panel, FocusThatGoesBehindItComesBack) {
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_EQ(open([this] {
+                  behind.setFocus(Qt::MouseFocusReason); // as a click beside the panel does
+                  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+              }),
+              0);
+}
+
+TEST_F(panel, KeyHeldDownSinceThePanelBeforeDoesNotAnswer) {
+    EXPECT_EQ(open([this] {
+                  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+                  QApplication::sendEvent(guard.topmost_panel(), &held);
+                  QApplication::sendEvent(button("panel_default_button"), &held);
+                  ASSERT_NE(guard.topmost_panel(), nullptr);
+                  dismiss();
+              }),
+              0);
 }
 
 TEST_F(panel, OnlyTheTopmostTakesInput) {
