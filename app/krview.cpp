@@ -51,7 +51,12 @@ void krview::drawRect() {
         return;
     }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(rect(), back, back.rect());
+    // In strips so low that Qt paints them on this thread: see premultiplied().
+    constexpr int strip_height = 30;
+    for (int top = 0; top < height(); top += strip_height) {
+        painter.setClipRect(0, top, width(), strip_height);
+        painter.drawPixmap(rect(), back, back.rect());
+    }
 }
 
 void krview::paintEvent(QPaintEvent* /*event*/) {
