@@ -1,7 +1,7 @@
 // Files that must not be lost once they are said to be written.
+#include <QByteArray>
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <memory>
@@ -61,8 +61,7 @@ private:
 
 // A relative folder in the environment counts as none.
 fs::path folder_in_environment(const char* name) {
-    const char* value = std::getenv(name);
-    const fs::path path = value != nullptr ? value : "";
+    const fs::path path = qgetenv(name).toStdString();
     return path.is_absolute() ? path : fs::path();
 }
 

@@ -35,19 +35,21 @@ bridge_object::~bridge_object() {
 }
 
 void bridge_object::add_properties() {
-    const auto add = [this](const char* name, auto value) {
-        object_->registerProperty(name).onInterface(bus::bridge_interface).withGetter([value] {
-            return value;
-        });
+    const auto add = [this](const char* name, auto member) {
+        object_->registerProperty(name)
+            .onInterface(bus::bridge_interface)
+            .withGetter([this, member] { return what_.*member; });
     };
-    add("Handle", what_.handle);
-    add("Bus", std::string(what_.bus == bus_kind::usb ? "USB" : "FireWire"));
-    add("VendorId", what_.vendor_id);
-    add("ProductId", what_.product_id);
-    add("LocationId", what_.location);
-    add("Serial", what_.serial);
-    add("Guid", what_.guid);
-    add("Name", what_.name);
+    add("Handle", &bridge::handle);
+    object_->registerProperty("Bus").onInterface(bus::bridge_interface).withGetter([this] {
+        return std::string(what_.bus == bus_kind::usb ? "USB" : "FireWire");
+    });
+    add("VendorId", &bridge::vendor_id);
+    add("ProductId", &bridge::product_id);
+    add("LocationId", &bridge::location);
+    add("Serial", &bridge::serial);
+    add("Guid", &bridge::guid);
+    add("Name", &bridge::name);
 }
 
 void bridge_object::execute(answer&& result, const std::vector<std::uint8_t>& cdb,

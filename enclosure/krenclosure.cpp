@@ -189,9 +189,7 @@ int perform(const action& chosen) {
     }
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
     CLI::App app("Works the emulated enclosures of this session.");
     app.set_version_flag("--version", "krenclosure " KESTREL_VERSION);
     app.require_subcommand(1);
@@ -209,4 +207,14 @@ int main(int argc, char** argv) {
         return app.exit(error) == 0 ? 0 : usage_error;
     }
     return perform(chosen);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception&) {
+        return 1; // not even the words are to be had
+    }
 }

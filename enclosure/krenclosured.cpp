@@ -25,7 +25,7 @@ file_handle stop_signals() {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         sigaddset(&signals, signal);
     }
-    sigprocmask(SIG_BLOCK, &signals, nullptr);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     return file_handle(::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK));
 }
 
@@ -59,9 +59,7 @@ void serve(const file_handle& stop) {
     }
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
     CLI::App app("Keeps the emulated enclosures of this session; krenclosure controls them.");
     app.set_version_flag("--version", "krenclosured " KESTREL_VERSION);
     CLI11_PARSE(app, argc, argv);
@@ -76,4 +74,14 @@ int main(int argc, char** argv) {
         complain(std::string("cannot go on: ") + error.what());
     }
     return 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception&) {
+        return 1; // not even the words are to be had
+    }
 }

@@ -51,7 +51,7 @@ void rescan(benchmark::State& state) {
     const auto count = static_cast<int>(state.range(0));
     desk.have(count);
     counted.total = {};
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         DeviceAdded(nullptr, 0);
     }
     if (static_cast<int>(j.chips.size()) != count) {
