@@ -340,6 +340,9 @@ TEST_F(EmulatedRegistry, SignalsOfOthersAreNotBelieved) {
 TEST_F(EmulatedRegistry, AServiceThatDescribesNonsenseIsNotBelieved) {
     thread_.start();
     thread_.first(1);
+    const std::string usb = "USB"; // what is served is kept by reference
+    const std::string floppy = "Floppy";
+    const std::uint64_t number = 5;
     const auto connection = sdbus::createSessionBusConnection(enclosure::bus::service);
     const auto root = sdbus::createObject(*connection, enclosure::bus::root);
     root->addObjectManager();
@@ -352,7 +355,7 @@ TEST_F(EmulatedRegistry, AServiceThatDescribesNonsenseIsNotBelieved) {
             .withGetter([handle] { return handle; });
         object.registerProperty("Bus")
             .onInterface(enclosure::bus::bridge_interface)
-            .withGetter([bus] { return bus; });
+            .withGetter([&bus] { return bus; });
         object.registerProperty("Name")
             .onInterface(enclosure::bus::bridge_interface)
             .withGetter([] { return std::string(500, 'N'); });
@@ -360,16 +363,16 @@ TEST_F(EmulatedRegistry, AServiceThatDescribesNonsenseIsNotBelieved) {
         object.emitInterfacesAddedSignal({enclosure::bus::bridge_interface});
     };
     connection->enterEventLoopAsync();
-    add(1, 2, std::string("USB"));
-    add(0, 0, std::string("USB"));
-    add(3, 3, std::string("Floppy"));
-    add(4, 4, std::uint64_t{5});
+    add(1, 2, usb);
+    add(0, 0, usb);
+    add(3, 3, floppy);
+    add(4, 4, number);
     for (const char* const name : {"InterfacesAdded", "InterfacesRemoved"}) {
         auto of_other_types = root->createSignal(enclosure::bus::object_manager_interface, name);
         of_other_types << std::string("no object path");
         root->emitSignal(of_other_types);
     }
-    add(6, 6, std::string("USB"));
+    add(6, 6, usb);
     const std::vector<heard_event> heard = thread_.first(2);
     ASSERT_EQ(heard.size(), 2U);
     EXPECT_EQ(heard[1], arrival_of({6}));

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <cstdio>
 #include <stdexcept>
 
 namespace {
@@ -31,6 +32,7 @@ std::vector<std::string> environment_with(const std::string& data_home) {
 pid_t spawn(const std::string& program, const std::string& data_home) {
     std::vector<std::string> variables = environment_with(data_home);
     std::vector<char*> environment;
+    environment.reserve(variables.size() + 1);
     for (std::string& variable : variables) {
         environment.push_back(variable.data());
     }
@@ -86,8 +88,12 @@ host_process::host_process() {
 }
 
 host_process::~host_process() {
-    if (runs()) {
-        stop();
+    try {
+        if (runs()) {
+            stop();
+        }
+    } catch (const std::exception& trouble) {
+        std::fputs(trouble.what(), stderr);
     }
 }
 

@@ -136,7 +136,7 @@ TEST_F(StateStore, AnUnreadableFileIsKeptAsideAndTheOthersLoad) {
 TEST_F(StateStore, ASecondUnreadableFileDoesNotPushTheFirstOut) {
     spoil("notes", "");
     for (int i = 0; i < 2; ++i) {
-        kept_desk(folder_.path());
+        { const kept_desk before(folder_.path()); }
         spoil("enclosures/bad.json", "no state");
         const kept_desk life(folder_.path());
         EXPECT_EQ(life.lines.size(), 1U);

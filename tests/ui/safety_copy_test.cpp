@@ -1,6 +1,7 @@
 // Safety copies: what they say, and that they are where nobody else reads and nothing is lost.
 #include "app/safety_copy.h"
 
+#include <QByteArray>
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
@@ -48,10 +49,13 @@ std::string sample_text(const krchip& chip) {
 TEST(safety_copy_text, NamesTheEnclosureTheBridgeAndEachDisk) {
     const std::string text = sample_text(sample_chip());
     EXPECT_THAT(text, StartsWith("Kestrel RAID safety copy 1\nMade: 20"));
-    EXPECT_THAT(text, HasSubstr("\nBefore: delete the array\nEnclosure: Desk (S/N: 1)\n"
-                                "Bridge: USB 1234:00ab, location 80100000\n\nDisk 1\n"
-                                "Model: MODEL\nSerial: SERIAL\nCapacity: 2014 sectors\n"
-                                "Record at sector: 1999\nRecord: none, or not readable\nSHA-256 of the record: "));
+    EXPECT_THAT(
+        text,
+        HasSubstr(
+            "\nBefore: delete the array\nEnclosure: Desk (S/N: 1)\n"
+            "Bridge: USB 1234:00ab, location 80100000\n\nDisk 1\n"
+            "Model: MODEL\nSerial: SERIAL\nCapacity: 2014 sectors\n"
+            "Record at sector: 1999\nRecord: none, or not readable\nSHA-256 of the record: "));
     EXPECT_THAT(text, HasSubstr("\n\nDisk 2\nnone\n"));
 }
 
@@ -110,8 +114,8 @@ protected:
         std::string pattern = testing::TempDir() + "kestrel-state-XXXXXX";
         ASSERT_NE(mkdtemp(pattern.data()), nullptr);
         root = pattern;
-        setenv("XDG_STATE_HOME", (root / "state").c_str(), 1);
-        setenv("HOME", root.c_str(), 1);
+        qputenv("XDG_STATE_HOME", (root / "state").c_str());
+        qputenv("HOME", root.c_str());
     }
     void TearDown() override { fs::remove_all(root); }
 
@@ -163,9 +167,9 @@ TEST_F(state_folder, KeepsTheCopiesOfOneSecondApart) {
 }
 
 TEST_F(state_folder, LiesInTheHomeFolderWithoutAnotherOrWithARelativeOne) {
-    unsetenv("XDG_STATE_HOME");
+    qunsetenv("XDG_STATE_HOME");
     EXPECT_EQ(copies.keep("one", some_time), "");
-    setenv("XDG_STATE_HOME", "state", 1);
+    qputenv("XDG_STATE_HOME", "state");
     EXPECT_EQ(copies.keep("two", some_time), "");
     EXPECT_EQ(files(root / ".local" / "state" / "kestrelraid").size(), 2U);
 }
@@ -176,8 +180,8 @@ TEST_F(state_folder, ThatCannotBeMadeIsNamedInTheReason) {
 }
 
 TEST_F(state_folder, WithoutAHomeTheReasonSaysSo) {
-    unsetenv("XDG_STATE_HOME");
-    unsetenv("HOME");
+    qunsetenv("XDG_STATE_HOME");
+    qunsetenv("HOME");
     EXPECT_THAT(copies.keep("text", some_time), HasSubstr("HOME"));
 }
 
