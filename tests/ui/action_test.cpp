@@ -111,12 +111,14 @@ TEST_F(action, HugeReadingsWrapAndAreSafe) {
 }
 
 TEST_F(action, LanguageOfTheUserNeverPutsACommaIntoThePercentage) {
+    // NOLINTBEGIN(concurrency-mt-unsafe): the window's other thread never runs here
     ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr) << "run it through ctest";
     QLocale::setDefault(QLocale(QLocale::German));
     window->updatepoll(1000, 1000, false);
     EXPECT_EQ(percentage(), QStringLiteral("99.0%"));
     QLocale::setDefault(QLocale::c());
     std::setlocale(LC_ALL, "C");
+    // NOLINTEND(concurrency-mt-unsafe)
 }
 
 TEST_F(action, BusyIndicatorIsSeenOnlyWhileItTurns) {

@@ -8,7 +8,6 @@
 
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 class tree_data_test : public testing::Test {
@@ -96,7 +95,7 @@ QStringList rows(const QAbstractItemModel& model, const QModelIndex& parent = {}
     QStringList shown;
     for (int row = 0; row < model.rowCount(parent); ++row) {
         const QModelIndex index = model.index(row, 0, parent);
-        shown += QString(2 * level, QLatin1Char(' ')) + index.data().toString();
+        shown += QString(qsizetype{2} * level, QLatin1Char(' ')) + index.data().toString();
         shown += rows(model, index, level + 1);
     }
     return shown;

@@ -73,7 +73,7 @@ TEST(display, IsAtHandWhenAnythingNamesOne) {
 class start_up : public window_test {
 protected:
     void SetUp() override {
-        model_test::SetUp();
+        model_test::SetUp(); // NOLINT(bugprone-parent-virtual-call): not started up yet
         workers.run_for_real(real_threads);
         window = new_window(&panels);
         window->outlets.keep_log(&outlet_log);

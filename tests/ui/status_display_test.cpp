@@ -69,9 +69,11 @@ TEST_F(status, SizesThatWrapAreDefined) {
 }
 
 TEST_F(status, LanguageOfTheUserNeverPutsACommaInANumber) {
+    // NOLINTBEGIN(concurrency-mt-unsafe): no other thread runs
     ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr) << "run it through ctest";
     EXPECT_EQ(capacity_text(1'500'301'910'016 / 512, true), "1.50 TB");
     std::setlocale(LC_ALL, "C");
+    // NOLINTEND(concurrency-mt-unsafe)
 }
 
 // The table of one disk, row by row.

@@ -13,7 +13,6 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 lines operator+(lines first, const lines& second) {
     first.insert(first.end(), second.begin(), second.end());

@@ -12,7 +12,6 @@
 
 namespace {
 
-using testing::IsEmpty;
 
 std::set<std::string> known_keys() {
     std::set<std::string> keys;
