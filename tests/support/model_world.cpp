@@ -20,6 +20,23 @@ recording_tree& tree_of_j() {
 
 namespace {
 
+// The user's data begin behind sector 63, and end before the RAID record.
+void check_written_sector(const library_call& call) {
+    constexpr std::uint64_t start = 64;
+    constexpr std::uint64_t record_distance = 15;
+    world().library.with_bridges([&call](memory_enclosure& all) {
+        if (!all.has(call.device) || call.port < 0 || call.port > 1) {
+            return;
+        }
+        const auto& disk = all.bridge(call.device).disks.at(static_cast<std::size_t>(call.port));
+        if (disk) {
+            EXPECT_TRUE(call.lba < start || call.lba == disk->size - record_distance ||
+                        call.lba >= disk->size)
+                << call.text << " writes to a sector of the user's";
+        }
+    });
+}
+
 void check_library_call(const library_call& call) {
     EXPECT_FALSE(j.records.held_here()) << call.text << " with the records lock held";
     if (call.per_device()) {
@@ -27,6 +44,7 @@ void check_library_call(const library_call& call) {
     }
     if (call.record) {
         EXPECT_TRUE(j.gate.held_here()) << call.text << " without the gate";
+        check_written_sector(call);
     }
 }
 
