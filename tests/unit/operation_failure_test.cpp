@@ -65,6 +65,14 @@ protected:
         });
     }
 
+    void pull(const std::vector<std::size_t>& ports) {
+        library.with_bridges([&ports](memory_enclosure& all) {
+            for (const std::size_t port : ports) {
+                all.bridge(device).disks.at(port).reset();
+            }
+        });
+    }
+
     static void flip_bits(memory_enclosure& all, std::size_t byte) {
         for (std::optional<memory_disk>& disk : all.bridge(device).disks) {
             for (auto& [lba, sector] : disk.value().sectors) {
@@ -160,6 +168,25 @@ TEST_P(Operation, EndsWhenEveryCallFails) {
         EXPECT_EQ(log.count("sleep"), 0U);
         EXPECT_EQ(log.count("krGetRaidInfo(0x11, 512, 1999"), 0U) << "read back after no write";
         EXPECT_FALSE(j.mutex.held_here());
+    }
+}
+
+// The sectors that a change may reach are held by the library double itself.
+TEST_P(Operation, EndsWhenADiskOrTheWholeEnclosureIsPulledBeforeAnyOneCall) {
+    const lines calls = undisturbed();
+    const std::vector<std::vector<std::size_t>> pulls = {{0}, {1}, {0, 1}};
+    for (std::size_t nth = 1; nth <= calls.size() && !HasFailure(); ++nth) {
+        for (const std::vector<std::size_t>& ports : pulls) {
+            SCOPED_TRACE("before call " + std::to_string(nth) + ", " + calls[nth - 1]);
+            krchip& chip = take_prepared();
+            library.on_nth("", static_cast<int>(nth), [&] { pull(ports); });
+            const bool done = GetParam().run(chip);
+            EXPECT_EQ(log.count("sleep"), 0U);
+            EXPECT_FALSE(j.mutex.held_here());
+            if (GetParam().decided_by == verdict::records) {
+                EXPECT_EQ(done, log.count("krWarmBoot") == 1) << "no restart without its records";
+            }
+        }
     }
 }
 
