@@ -260,6 +260,25 @@ TEST_F(change, FailedWipeIsToldAndNothingIsReadAgain) {
     EXPECT_EQ(log.count("getDeviceList"), 0U);
 }
 
+// The comparison's calls, the change's and, after an error, those of the refresh.
+TEST_F(change, EveryButtonBearsAFailureOfAnyOneLibraryCall) {
+    for (QPushButton* button : all_buttons()) {
+        SCOPED_TRACE(button->objectName().toStdString());
+        take_mirror();
+        press(button);
+        const std::size_t calls = log.lines(from_library).size();
+        for (std::size_t nth = 1; nth <= calls && !HasFailure(); ++nth) {
+            SCOPED_TRACE("call " + std::to_string(nth));
+            take_mirror();
+            library.answer_nth("", static_cast<int>(nth), {nth % 2 == 0 ? 1 : -1});
+            press(button);
+            EXPECT_TRUE(window->idle());
+            EXPECT_TRUE(gate_attempt(j.gate)) << "somebody still holds the gate";
+            EXPECT_LE(restarts(), 1U);
+        }
+    }
+}
+
 TEST_F(change, WipeOfAnEmptyBayAsksAndThenDoesNothing) {
     change_disk(1, [](krdisk& disk) { disk.present = 0; });
     press(window->cleardisk1button);
