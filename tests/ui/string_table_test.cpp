@@ -12,7 +12,6 @@
 
 namespace {
 
-
 std::set<std::string> known_keys() {
     std::set<std::string> keys;
     for (const auto part : {designed_keys(), window_keys()}) {
