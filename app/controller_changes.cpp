@@ -175,7 +175,7 @@ bool controller::goes_on_without_copy(const std::string& trouble) {
     ui([&] {
         go_on = !exit_remembered_ && answered_yes({panel_kind::warning,
                                                    s_warning,
-                                                   filled(localised("copy_failed"), trouble),
+                                                   filled(localised("ui_copy_failed"), trouble),
                                                    {s_ok, s_cancel}});
     });
     return go_on;

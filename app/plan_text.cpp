@@ -9,17 +9,17 @@ namespace {
 std::string heading_of(const change_plan& plan, const text_lookup& texts) {
     switch (plan.what) {
     case array_change::create:
-        return filled(texts.text("plan_create"), mode_name(plan.mode, texts));
+        return filled(texts.text("ui_plan_create"), mode_name(plan.mode, texts));
     case array_change::clear_array:
-        return texts.text("plan_delete");
+        return texts.text("ui_plan_delete");
     case array_change::clear_disk0:
-        return texts.text("plan_wipe_disk_1");
+        return texts.text("ui_plan_wipe_disk_1");
     case array_change::clear_disk1:
-        return texts.text("plan_wipe_disk_2");
+        return texts.text("ui_plan_wipe_disk_2");
     case array_change::rebuild0to1:
-        return texts.text("plan_copy_disk_1");
+        return texts.text("ui_plan_copy_disk_1");
     case array_change::rebuild1to0:
-        return texts.text("plan_copy_disk_2");
+        return texts.text("ui_plan_copy_disk_2");
     }
     return {};
 }
@@ -27,15 +27,15 @@ std::string heading_of(const change_plan& plan, const text_lookup& texts) {
 const char* fate_key(disk_fate fate) {
     switch (fate) {
     case disk_fate::untouched:
-        return "plan_untouched";
+        return "ui_plan_untouched";
     case disk_fate::all_lost:
-        return "plan_all_lost";
+        return "ui_plan_all_lost";
     case disk_fate::keeps_data:
-        return "plan_keeps_data";
+        return "ui_plan_keeps_data";
     case disk_fate::read:
-        return "plan_read";
+        return "ui_plan_read";
     case disk_fate::overwritten:
-        return "plan_overwritten";
+        return "ui_plan_overwritten";
     }
     return "";
 }
@@ -57,19 +57,19 @@ fate_tone tone_of(disk_fate fate) {
 std::vector<std::string> warnings_of(const planned_disk& disk, const text_lookup& texts) {
     std::vector<std::string> lines;
     if (disk.missing_sectors != 0) {
-        lines.push_back(filled(texts.text("plan_too_small"), inttostring(disk.missing_sectors)));
+        lines.push_back(filled(texts.text("ui_plan_too_small"), inttostring(disk.missing_sectors)));
     }
     if (disk.record_inside_mirror) {
-        lines.push_back(texts.text("plan_record_inside_mirror"));
+        lines.push_back(texts.text("ui_plan_record_inside_mirror"));
     }
     if (disk.copy_unfinished) {
-        lines.push_back(texts.text("plan_copy_unfinished"));
+        lines.push_back(texts.text("ui_plan_copy_unfinished"));
     }
     if (disk.larger_than_used) {
-        lines.push_back(texts.text("plan_larger_than_used"));
+        lines.push_back(texts.text("ui_plan_larger_than_used"));
     }
     if (disk.foreign_sectors) {
-        lines.push_back(texts.text("plan_foreign_sectors"));
+        lines.push_back(texts.text("ui_plan_foreign_sectors"));
     }
     return lines;
 }
@@ -82,7 +82,7 @@ plan_card card_of(const planned_disk& disk, const char* bay, bool decimal_units,
     card.fate = texts.text(fate_key(disk.fate));
     card.tone = tone_of(disk.fate);
     if (!disk.present) {
-        card.model = texts.text("empty_bay");
+        card.model = texts.text("ui_empty_bay");
         return card;
     }
     card.size = capacity_text(disk.capacity, decimal_units);
@@ -115,7 +115,7 @@ plan_view describe(const change_plan& plan, bool decimal_units, const text_looku
     view.cards[1] = card_of(plan.disks[1], "disk_2", decimal_units, texts);
     view.arrow = arrow_of(plan);
     if (view.arrow != plan_arrow::none) {
-        view.arrow_word = texts.text("plan_overwrites");
+        view.arrow_word = texts.text("ui_plan_overwrites");
     }
     return view;
 }

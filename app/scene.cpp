@@ -102,8 +102,8 @@ void show_bay(controller& window, const disk_view& disk, std::size_t port) {
 void caption_extras(controller& window) {
     const window_extras& extras = *window.extras;
     constexpr std::array<const char*, 4> kinds = {"raid_0", "raid_1", "span", "not_config"};
-    constexpr std::array<const char*, 4> meanings = {"raid_0_meaning", "raid_1_meaning",
-                                                     "span_meaning", "not_config_meaning"};
+    constexpr std::array<const char*, 4> meanings = {"ui_raid_0_meaning", "ui_raid_1_meaning",
+                                                     "ui_span_meaning", "ui_not_config_meaning"};
     for (int row = 0; row < radio_matrix::rows; ++row) {
         const auto place = static_cast<std::size_t>(row);
         window.raidconfigradiobutton->set_row_text(row, localised(kinds[place]),
@@ -111,31 +111,31 @@ void caption_extras(controller& window) {
     }
     window.raidconfigradiobutton->setAccessibleName(localised("raid_configuration"));
     extras.page_captions[0]->set_value(localised("raid_status"));
-    extras.page_captions[1]->set_value(localised("system_information"));
+    extras.page_captions[1]->set_value(localised("ui_system_information"));
     window.mainguibutton->setAccessibleName(localised("raid_status"));
-    window.showdiskguibutton->setAccessibleName(localised("system_information"));
+    window.showdiskguibutton->setAccessibleName(localised("ui_system_information"));
     for (QPushButton* button : {window.cleardisk0button, window.cleardisk1button}) {
-        button->setText(button_text(j.with.texts.text("clear")));
+        button->setText(button_text(j.with.texts.text("ui_clear")));
     }
-    window.cleardisk0button->setAccessibleName(localised("clear_disk_1"));
-    window.cleardisk1button->setAccessibleName(localised("clear_disk_2"));
-    window.minimizebutton->setAccessibleName(localised("minimise"));
-    window.minimizebutton->setToolTip(localised("minimise"));
-    window.closebutton->setAccessibleName(localised("close"));
-    window.closebutton->setToolTip(localised("close"));
-    window.controllerselectbox->setAccessibleName(localised("controllers"));
-    window.workingindicator->setAccessibleName(localised("working"));
+    window.cleardisk0button->setAccessibleName(localised("ui_clear_disk_1"));
+    window.cleardisk1button->setAccessibleName(localised("ui_clear_disk_2"));
+    window.minimizebutton->setAccessibleName(localised("ui_minimise"));
+    window.minimizebutton->setToolTip(localised("ui_minimise"));
+    window.closebutton->setAccessibleName(localised("ui_close"));
+    window.closebutton->setToolTip(localised("ui_close"));
+    window.controllerselectbox->setAccessibleName(localised("ui_controllers"));
+    window.workingindicator->setAccessibleName(localised("ui_working"));
     show_restart_target(window, "");
-    extras.devices_box->set_title(localised("devices"));
-    window.tree->setAccessibleName(localised("devices"));
-    extras.rebuild_hint->set_value(localised("rebuild_hint"));
+    extras.devices_box->set_title(localised("ui_devices"));
+    window.tree->setAccessibleName(localised("ui_devices"));
+    extras.rebuild_hint->set_value(localised("ui_rebuild_hint"));
     window.levelindicator->setAccessibleName(localised("rebuild_progress"));
     window.tabview->bar()->setAccessibleName(localised("raid_status"));
     constexpr std::array<const char*, 2> disks = {"disk_1", "disk_2"};
     for (std::size_t port = 0; port < disks.size(); ++port) {
         extras.empty_captions[port]->set_value(localised(disks[port]));
         extras.config_captions[port]->set_value(localised(disks[port]));
-        extras.empty_words[port]->set_value(localised("empty_bay"));
+        extras.empty_words[port]->set_value(localised("ui_empty_bay"));
     }
     mark_page_caption(window, 0);
 }
@@ -166,11 +166,11 @@ void clear_scene(controller& window) {
 }
 
 void show_scanning_scene(controller& window) {
-    show_note(window, "scanning", "scanning_advice");
+    show_note(window, "ui_scanning", "ui_scanning_advice");
 }
 
 void show_empty_scene(controller& window) {
-    show_note(window, "no_enclosure", "no_enclosure_advice");
+    show_note(window, "ui_no_enclosure", "ui_no_enclosure_advice");
 }
 
 void show_chip_scene(controller& window, const view_state& view) {
@@ -197,8 +197,8 @@ void show_progress_scene(controller& window) {
 
 void show_restart_target(controller& window, const std::string& name) {
     QPushButton* button = window.extras->warmbootbutton;
-    const std::string text = name.empty() ? j.with.texts.text("restart_enclosure")
-                                          : filled(j.with.texts.text("restart_named"), name);
+    const std::string text = name.empty() ? j.with.texts.text("ui_restart_enclosure")
+                                          : filled(j.with.texts.text("ui_restart_named"), name);
     constexpr int padding = 24;
     const QString shown = button->fontMetrics().elidedText(one_line(text), Qt::ElideMiddle,
                                                            button->width() - padding);

@@ -36,7 +36,7 @@ std::string reason_against_rebuild(const krchip& chip, std::size_t port, const t
         source.raid_capacity <= target.capacity) {
         return {};
     }
-    return filled(texts.text(port == 0 ? "too_small_for_rebuild_2" : "too_small_for_rebuild_1"),
+    return filled(texts.text(port == 0 ? "ui_too_small_for_rebuild_2" : "ui_too_small_for_rebuild_1"),
                   inttostring(source.raid_capacity - target.capacity));
 }
 

@@ -175,169 +175,429 @@
         <source></source>
         <translation>Gerät</translation>
     </message>
-    <message id="controllers">
+    <message id="ui_controllers">
         <source></source>
         <translation>Gehäuse</translation>
     </message>
-    <message id="system_information">
+    <message id="ui_system_information">
         <source></source>
         <translation>System­information</translation>
     </message>
-    <message id="devices">
+    <message id="ui_devices">
         <source></source>
         <translation>Geräte</translation>
     </message>
-    <message id="minimise">
+    <message id="ui_minimise">
         <source></source>
         <translation>Minimieren</translation>
     </message>
-    <message id="close">
+    <message id="ui_close">
         <source></source>
         <translation>Schließen</translation>
     </message>
-    <message id="clear">
+    <message id="ui_clear">
         <source></source>
         <translation>Bereinigen</translation>
     </message>
-    <message id="clear_disk_1">
+    <message id="ui_clear_disk_1">
         <source></source>
         <translation>Festplatte 1 bereinigen</translation>
     </message>
-    <message id="clear_disk_2">
+    <message id="ui_clear_disk_2">
         <source></source>
         <translation>Festplatte 2 bereinigen</translation>
     </message>
-    <message id="restart_enclosure">
+    <message id="ui_restart_enclosure">
         <source></source>
         <translation>Gehäuse neu starten</translation>
     </message>
-    <message id="working">
+    <message id="ui_working">
         <source></source>
         <translation>Beschäftigt</translation>
     </message>
-    <message id="empty_bay">
+    <message id="ui_empty_bay">
         <source></source>
         <translation>leerer Schacht</translation>
     </message>
-    <message id="raid_0_meaning">
+    <message id="ui_raid_0_meaning">
         <source></source>
         <translation>Schnell, Größen addiert; kein Ausfallschutz.</translation>
     </message>
-    <message id="raid_1_meaning">
+    <message id="ui_raid_1_meaning">
         <source></source>
         <translation>Zwei gleiche Kopien; eine Platte darf ausfallen.</translation>
     </message>
-    <message id="span_meaning">
+    <message id="ui_span_meaning">
         <source></source>
         <translation>Eine Platte nach der anderen, Größen addiert.</translation>
     </message>
-    <message id="not_config_meaning">
+    <message id="ui_not_config_meaning">
         <source></source>
         <translation>Zwei voneinander unabhängige Festplatten.</translation>
     </message>
-    <message id="no_enclosure">
+    <message id="ui_no_enclosure">
         <source></source>
         <translation>Kein Gehäuse angeschlossen</translation>
     </message>
-    <message id="no_enclosure_advice">
+    <message id="ui_no_enclosure_advice">
         <source></source>
         <translation>Verbinden Sie das Gehäuse über USB oder FireWire und schalten Sie es ein. Es erscheint dann von selbst.</translation>
     </message>
-    <message id="scanning">
+    <message id="ui_scanning">
         <source></source>
         <translation>Suche nach Gehäusen …</translation>
     </message>
-    <message id="scanning_advice">
+    <message id="ui_scanning_advice">
         <source></source>
         <translation>Beide Festplatten und der Verbund werden neu eingelesen. Das dauert einige Sekunden.</translation>
     </message>
-    <message id="rebuild_hint">
+    <message id="ui_rebuild_hint">
         <source></source>
         <translation>Der Pfeil zeigt, wohin die Daten fließen. Die Festplatte an seiner Spitze wird überschrieben. Vor dem Schreiben werden Sie noch einmal gefragt.</translation>
     </message>
-    <message id="plan_create">
+    <message id="ui_plan_create">
         <source></source>
         <translation>Legt einen neuen Verbund an: %1.</translation>
     </message>
-    <message id="plan_delete">
+    <message id="ui_plan_delete">
         <source></source>
         <translation>Löscht den Verbund.</translation>
     </message>
-    <message id="plan_wipe_disk_1">
+    <message id="ui_plan_wipe_disk_1">
         <source></source>
         <translation>Leert Festplatte 1.</translation>
     </message>
-    <message id="plan_wipe_disk_2">
+    <message id="ui_plan_wipe_disk_2">
         <source></source>
         <translation>Leert Festplatte 2.</translation>
     </message>
-    <message id="plan_copy_disk_1">
+    <message id="ui_plan_copy_disk_1">
         <source></source>
         <translation>Kopiert Festplatte 1 auf Festplatte 2.</translation>
     </message>
-    <message id="plan_copy_disk_2">
+    <message id="ui_plan_copy_disk_2">
         <source></source>
         <translation>Kopiert Festplatte 2 auf Festplatte 1.</translation>
     </message>
-    <message id="plan_untouched">
+    <message id="ui_plan_untouched">
         <source></source>
         <translation>nichts wird geschrieben</translation>
     </message>
-    <message id="plan_all_lost">
+    <message id="ui_plan_all_lost">
         <source></source>
         <translation>verliert alle Daten</translation>
     </message>
-    <message id="plan_keeps_data">
+    <message id="ui_plan_keeps_data">
         <source></source>
         <translation>behält die Daten, verlässt den Verbund</translation>
     </message>
-    <message id="plan_read">
+    <message id="ui_plan_read">
         <source></source>
         <translation>wird gelesen, behält die Daten</translation>
     </message>
-    <message id="plan_overwritten">
+    <message id="ui_plan_overwritten">
         <source></source>
         <translation>wird überschrieben, alle Daten verloren</translation>
     </message>
-    <message id="plan_overwrites">
+    <message id="ui_plan_overwrites">
         <source></source>
         <translation>überschreibt</translation>
     </message>
-    <message id="plan_too_small">
+    <message id="ui_plan_too_small">
         <source></source>
         <translation>Um %1 Sektoren zu klein.</translation>
     </message>
-    <message id="plan_record_inside_mirror">
+    <message id="ui_plan_record_inside_mirror">
         <source></source>
         <translation>Die Kopie reicht bis an den RAID-Datensatz.</translation>
     </message>
-    <message id="plan_larger_than_used">
+    <message id="ui_plan_larger_than_used">
         <source></source>
         <translation>Nur ein Teil der Platte wird genutzt: Der RAID-Datensatz liegt vor dem Ende.</translation>
     </message>
-    <message id="plan_foreign_sectors">
+    <message id="ui_plan_foreign_sectors">
         <source></source>
         <translation>Ihre Sektoren haben nicht 512 Byte.</translation>
     </message>
-    <message id="copy_failed">
+    <message id="ui_copy_failed">
         <source></source>
         <translation>Die Sicherheitskopie der RAID-Datensätze konnte nicht geschrieben werden: %1. Ohne sie fortfahren?</translation>
     </message>
-    <message id="too_small_for_rebuild_1">
+    <message id="ui_too_small_for_rebuild_1">
         <source></source>
         <translation>Festplatte 1 ist um %1 Sektoren zu klein.</translation>
     </message>
-    <message id="too_small_for_rebuild_2">
+    <message id="ui_too_small_for_rebuild_2">
         <source></source>
         <translation>Festplatte 2 ist um %1 Sektoren zu klein.</translation>
     </message>
-    <message id="restart_named">
+    <message id="ui_restart_named">
         <source></source>
         <translation>%1 neu starten</translation>
     </message>
-    <message id="plan_copy_unfinished">
+    <message id="ui_plan_copy_unfinished">
         <source></source>
         <translation>Die Kopie auf diese Platte ist nicht abgeschlossen.</translation>
+    </message>
+    <message id="ui_verdict_none">
+        <source></source>
+        <translation>Kein Gehäuse</translation>
+    </message>
+    <message id="ui_verdict_scanning">
+        <source></source>
+        <translation>Suche läuft</translation>
+    </message>
+    <message id="ui_verdict_no_disks">
+        <source></source>
+        <translation>Keine Festplatten</translation>
+    </message>
+    <message id="ui_verdict_healthy">
+        <source></source>
+        <translation>Fehlerfrei</translation>
+    </message>
+    <message id="ui_verdict_degraded">
+        <source></source>
+        <translation>Herabgestuft</translation>
+    </message>
+    <message id="ui_verdict_differ">
+        <source></source>
+        <translation>Kopien verschieden</translation>
+    </message>
+    <message id="ui_verdict_broken">
+        <source></source>
+        <translation>Unvollständig</translation>
+    </message>
+    <message id="ui_verdict_rebuilding">
+        <source></source>
+        <translation>Wiederherstellung läuft</translation>
+    </message>
+    <message id="ui_state_mirror">
+        <source></source>
+        <translation>Beide Festplatten enthalten dieselben Daten.</translation>
+    </message>
+    <message id="ui_state_no_copy">
+        <source></source>
+        <translation>Beide Festplatten antworten. Es gibt keine zweite Kopie.</translation>
+    </message>
+    <message id="ui_state_copying">
+        <source></source>
+        <translation>Festplatte %1 wird auf Festplatte %2 kopiert.</translation>
+    </message>
+    <message id="ui_step_connect">
+        <source></source>
+        <translation>Schließen Sie das Gehäuse per USB oder FireWire an.</translation>
+    </message>
+    <message id="ui_step_switch_on">
+        <source></source>
+        <translation>Schalten Sie es ein und warten Sie einige Sekunden.</translation>
+    </message>
+    <message id="ui_step_wait">
+        <source></source>
+        <translation>Es erscheint hier von selbst, sonst: „%1“.</translation>
+    </message>
+    <message id="ui_advice_none">
+        <source></source>
+        <translation>Immer noch nichts? Prüfen Sie das Netzteil, dann ein anderes Kabel oder einen anderen Anschluss.</translation>
+    </message>
+    <message id="ui_advice_no_disks">
+        <source></source>
+        <translation>Beide Schächte sind leer. Setzen Sie eine Festplatte ein; sie erscheint hier von selbst.</translation>
+    </message>
+    <message id="ui_advice_one_disk">
+        <source></source>
+        <translation>Schacht %1 ist leer. Setzen Sie dort eine zweite Festplatte ein, um einen Verbund zu erstellen.</translation>
+    </message>
+    <message id="ui_advice_pair">
+        <source></source>
+        <translation>Zwei einzelne Festplatten. Um sie zu verbinden, wählen Sie unten eine Art und drücken Sie „%1“; alles auf beiden Festplatten geht dabei verloren.</translation>
+    </message>
+    <message id="ui_advice_mirror">
+        <source></source>
+        <translation>Jede der beiden Festplatten darf ohne Verlust ausfallen. Es ist nichts zu tun.</translation>
+    </message>
+    <message id="ui_advice_stripe">
+        <source></source>
+        <translation>Die Daten sind auf beide Festplatten verteilt. Fällt eine aus, ist alles verloren: Bewahren Sie anderswo eine Kopie auf.</translation>
+    </message>
+    <message id="ui_advice_span">
+        <source></source>
+        <translation>Festplatte 2 setzt fort, wo Festplatte 1 endet. Fällt eine aus, ist ihr Teil der Daten verloren: Bewahren Sie anderswo eine Kopie auf.</translation>
+    </message>
+    <message id="ui_advice_missing">
+        <source></source>
+        <translation>Festplatte %1 fehlt, es gibt nur noch eine Kopie auf Festplatte %2. Setzen Sie eine Festplatte mit mindestens %3 in Schacht %1 ein; danach ist eine Wiederherstellung möglich.</translation>
+    </message>
+    <message id="ui_advice_fresh">
+        <source></source>
+        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1. Für eine zweite kopieren Sie sie unten mit „%3“ auf Festplatte %2.</translation>
+    </message>
+    <message id="ui_advice_small">
+        <source></source>
+        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1, und Festplatte %2 ist zu klein für eine zweite. Setzen Sie eine Festplatte mit mindestens %3 in Schacht %2 ein.</translation>
+    </message>
+    <message id="ui_advice_differ">
+        <source></source>
+        <translation>Beide Festplatten enthalten eine Kopie desselben RAID 1, aber mit verschiedenem Inhalt; der Eintrag auf Festplatte %1 ist der spätere. Wählen Sie, welche Kopie bleibt.</translation>
+    </message>
+    <message id="ui_advice_differ_undated">
+        <source></source>
+        <translation>Beide Festplatten enthalten eine Kopie eines RAID 1, aber die Kopien gehören nicht zusammen. Wählen Sie, welche bleibt.</translation>
+    </message>
+    <message id="ui_advice_half">
+        <source></source>
+        <translation>Eine Hälfte dieses Verbunds fehlt. Setzen Sie die andere Festplatte wieder ein, um die Daten zu erreichen. Bereinigen Sie Festplatte %1 nur, wenn die Daten nicht mehr gebraucht werden.</translation>
+    </message>
+    <message id="ui_advice_halves">
+        <source></source>
+        <translation>Die Einträge der beiden Festplatten gehören nicht zusammen. Setzen Sie die Festplatten eines Verbunds wieder ein, um seine Daten zu erreichen. Bereinigen Sie nur, was nicht mehr gebraucht wird.</translation>
+    </message>
+    <message id="ui_advice_rebuilding">
+        <source></source>
+        <translation>Das Volume bleibt währenddessen benutzbar. Bis die Kopie vollständig ist, enthält nur Festplatte %1 alle Daten: nicht ausschalten oder abziehen.</translation>
+    </message>
+    <message id="ui_reason_no_enclosure">
+        <source></source>
+        <translation>Es ist kein Gehäuse angeschlossen.</translation>
+    </message>
+    <message id="ui_reason_scanning">
+        <source></source>
+        <translation>Die Gehäuse werden gerade gelesen.</translation>
+    </message>
+    <message id="ui_reason_bay_empty">
+        <source></source>
+        <translation>Braucht zwei Festplatten: Schacht %1 ist leer.</translation>
+    </message>
+    <message id="ui_reason_no_disks">
+        <source></source>
+        <translation>Braucht zwei Festplatten: Beide Schächte sind leer.</translation>
+    </message>
+    <message id="ui_reason_rebuild_running">
+        <source></source>
+        <translation>Eine Wiederherstellung läuft.</translation>
+    </message>
+    <message id="ui_reason_choose_kind">
+        <source></source>
+        <translation>Wählen Sie zuerst RAID 0, RAID 1 oder Aneinanderreihung.</translation>
+    </message>
+    <message id="ui_reason_no_array">
+        <source></source>
+        <translation>Es gibt keinen Verbund, der zu löschen wäre.</translation>
+    </message>
+    <message id="ui_reason_incomplete">
+        <source></source>
+        <translation>Der Verbund ist nicht vollständig. Bereinigen Sie die Festplatten einzeln.</translation>
+    </message>
+    <message id="ui_reason_no_mirror">
+        <source></source>
+        <translation>Festplatte %1 enthält keine Kopie eines RAID 1.</translation>
+    </message>
+    <message id="ui_reason_same_data">
+        <source></source>
+        <translation>Beide Festplatten enthalten bereits dieselben Daten.</translation>
+    </message>
+    <message id="ui_reason_other_array">
+        <source></source>
+        <translation>Die Festplatten bilden einen Verbund ohne Kopien.</translation>
+    </message>
+    <message id="ui_reason_no_target">
+        <source></source>
+        <translation>Schacht %1 ist leer: Es gibt keine Festplatte als Ziel.</translation>
+    </message>
+    <message id="ui_record">
+        <source></source>
+        <translation>Eintrag %1</translation>
+    </message>
+    <message id="ui_stays">
+        <source></source>
+        <translation>bleibt</translation>
+    </message>
+    <message id="ui_overwritten">
+        <source></source>
+        <translation>entfällt</translation>
+    </message>
+    <message id="ui_in_use">
+        <source></source>
+        <translation>in Betrieb</translation>
+    </message>
+    <message id="ui_source">
+        <source></source>
+        <translation>Quelle</translation>
+    </message>
+    <message id="ui_target">
+        <source></source>
+        <translation>Ziel</translation>
+    </message>
+    <message id="ui_left_hours">
+        <source></source>
+        <translation>noch etwa %1 Std. %2 Min.</translation>
+    </message>
+    <message id="ui_left_minutes">
+        <source></source>
+        <translation>noch etwa %1 Min.</translation>
+    </message>
+    <message id="ui_left_soon">
+        <source></source>
+        <translation>noch weniger als eine Minute</translation>
+    </message>
+    <message id="ui_stalled">
+        <source></source>
+        <translation>steht still</translation>
+    </message>
+    <message id="ui_changing">
+        <source></source>
+        <translation>Der Verbund wird geändert …</translation>
+    </message>
+    <message id="ui_changing_advice">
+        <source></source>
+        <translation>Die Einträge der Festplatten werden geschrieben. Nicht ausschalten oder abziehen.</translation>
+    </message>
+    <message id="ui_guide">
+        <source></source>
+        <translation>Eine Festplatte ist ausgefallen</translation>
+    </message>
+    <message id="ui_guide_link">
+        <source></source>
+        <translation>Was tun, wenn eine Festplatte ausfällt?</translation>
+    </message>
+    <message id="ui_guide_keep">
+        <source></source>
+        <translation>Bewahren, was noch da ist</translation>
+    </message>
+    <message id="ui_guide_keep_text">
+        <source></source>
+        <translation>Die andere Festplatte eines RAID 1 enthält alle Ihre Daten, und der Verbund läuft mit ihr weiter. Kopieren Sie jetzt an einen anderen Ort, was Sie nicht verlieren dürfen. Nichts erstellen, löschen oder bereinigen.</translation>
+    </message>
+    <message id="ui_guide_find">
+        <source></source>
+        <translation>Die ausgefallene Festplatte finden</translation>
+    </message>
+    <message id="ui_guide_find_text">
+        <source></source>
+        <translation>Die Seite „%1“ zeigt, welcher Schacht leer ist. Die Seriennummer der anderen Festplatte steht unter „%2“: Vergleichen Sie sie mit dem Aufkleber, bevor Sie eine Festplatte herausnehmen.</translation>
+    </message>
+    <message id="ui_guide_replace">
+        <source></source>
+        <translation>Eine neue Festplatte einsetzen</translation>
+    </message>
+    <message id="ui_guide_replace_text">
+        <source></source>
+        <translation>Sie muss mindestens so groß sein wie die alte. Alles darauf wird überschrieben; nehmen Sie also eine, auf der nichts steht, was Sie brauchen.</translation>
+    </message>
+    <message id="ui_guide_rebuild">
+        <source></source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message id="ui_guide_rebuild_text">
+        <source></source>
+        <translation>Drücken Sie auf dem Reiter „%1“ die Taste, deren Pfeil von der verbliebenen zur neuen Festplatte zeigt. Lassen Sie das Gehäuse eingeschaltet, bis das Programm das Ende der Wiederherstellung meldet.</translation>
+    </message>
+    <message id="ui_guide_no_copy">
+        <source></source>
+        <translation>RAID 0 und Aneinanderreihung halten keine zweite Kopie. Versuchen Sie es mit einem anderen Kabel oder Schacht; ist die Festplatte ausgefallen, hilft nur eine Datensicherung.</translation>
+    </message>
+    <message id="ui_open_window">
+        <source></source>
+        <translation>Fenster zeigen</translation>
     </message>
 </context>
 </TS>

@@ -175,169 +175,429 @@
         <source></source>
         <translation>Device</translation>
     </message>
-    <message id="controllers">
+    <message id="ui_controllers">
         <source></source>
         <translation>Enclosures</translation>
     </message>
-    <message id="system_information">
+    <message id="ui_system_information">
         <source></source>
         <translation>System information</translation>
     </message>
-    <message id="devices">
+    <message id="ui_devices">
         <source></source>
         <translation>Devices</translation>
     </message>
-    <message id="minimise">
+    <message id="ui_minimise">
         <source></source>
         <translation>Minimise</translation>
     </message>
-    <message id="close">
+    <message id="ui_close">
         <source></source>
         <translation>Close</translation>
     </message>
-    <message id="clear">
+    <message id="ui_clear">
         <source></source>
         <translation>Clear</translation>
     </message>
-    <message id="clear_disk_1">
+    <message id="ui_clear_disk_1">
         <source></source>
         <translation>Clear Disk 1</translation>
     </message>
-    <message id="clear_disk_2">
+    <message id="ui_clear_disk_2">
         <source></source>
         <translation>Clear Disk 2</translation>
     </message>
-    <message id="restart_enclosure">
+    <message id="ui_restart_enclosure">
         <source></source>
         <translation>Restart enclosure</translation>
     </message>
-    <message id="working">
+    <message id="ui_working">
         <source></source>
         <translation>Busy</translation>
     </message>
-    <message id="empty_bay">
+    <message id="ui_empty_bay">
         <source></source>
         <translation>empty bay</translation>
     </message>
-    <message id="raid_0_meaning">
+    <message id="ui_raid_0_meaning">
         <source></source>
         <translation>Fast, sizes added. One failed disk loses all.</translation>
     </message>
-    <message id="raid_1_meaning">
+    <message id="ui_raid_1_meaning">
         <source></source>
         <translation>Two equal copies. Either disk may fail.</translation>
     </message>
-    <message id="span_meaning">
+    <message id="ui_span_meaning">
         <source></source>
         <translation>One disk after the other, sizes added.</translation>
     </message>
-    <message id="not_config_meaning">
+    <message id="ui_not_config_meaning">
         <source></source>
         <translation>Two separate disks.</translation>
     </message>
-    <message id="no_enclosure">
+    <message id="ui_no_enclosure">
         <source></source>
         <translation>No enclosure attached</translation>
     </message>
-    <message id="no_enclosure_advice">
+    <message id="ui_no_enclosure_advice">
         <source></source>
         <translation>Connect the enclosure by USB or FireWire and switch it on. It appears here by itself.</translation>
     </message>
-    <message id="scanning">
+    <message id="ui_scanning">
         <source></source>
         <translation>Looking for enclosures …</translation>
     </message>
-    <message id="scanning_advice">
+    <message id="ui_scanning_advice">
         <source></source>
         <translation>Both disks and the array are read anew. This takes a few seconds.</translation>
     </message>
-    <message id="rebuild_hint">
+    <message id="ui_rebuild_hint">
         <source></source>
         <translation>The arrow shows which way the data flows. The disk at its tip is overwritten. You are asked once more before anything is written.</translation>
     </message>
-    <message id="plan_create">
+    <message id="ui_plan_create">
         <source></source>
         <translation>Creates a new array: %1.</translation>
     </message>
-    <message id="plan_delete">
+    <message id="ui_plan_delete">
         <source></source>
         <translation>Deletes the array.</translation>
     </message>
-    <message id="plan_wipe_disk_1">
+    <message id="ui_plan_wipe_disk_1">
         <source></source>
         <translation>Wipes Disk 1.</translation>
     </message>
-    <message id="plan_wipe_disk_2">
+    <message id="ui_plan_wipe_disk_2">
         <source></source>
         <translation>Wipes Disk 2.</translation>
     </message>
-    <message id="plan_copy_disk_1">
+    <message id="ui_plan_copy_disk_1">
         <source></source>
         <translation>Copies Disk 1 onto Disk 2.</translation>
     </message>
-    <message id="plan_copy_disk_2">
+    <message id="ui_plan_copy_disk_2">
         <source></source>
         <translation>Copies Disk 2 onto Disk 1.</translation>
     </message>
-    <message id="plan_untouched">
+    <message id="ui_plan_untouched">
         <source></source>
         <translation>nothing is written</translation>
     </message>
-    <message id="plan_all_lost">
+    <message id="ui_plan_all_lost">
         <source></source>
         <translation>loses all data</translation>
     </message>
-    <message id="plan_keeps_data">
+    <message id="ui_plan_keeps_data">
         <source></source>
         <translation>keeps its data, leaves the array</translation>
     </message>
-    <message id="plan_read">
+    <message id="ui_plan_read">
         <source></source>
         <translation>is read, keeps its data</translation>
     </message>
-    <message id="plan_overwritten">
+    <message id="ui_plan_overwritten">
         <source></source>
         <translation>is overwritten, all data lost</translation>
     </message>
-    <message id="plan_overwrites">
+    <message id="ui_plan_overwrites">
         <source></source>
         <translation>overwrites</translation>
     </message>
-    <message id="plan_too_small">
+    <message id="ui_plan_too_small">
         <source></source>
         <translation>Too small by %1 sectors.</translation>
     </message>
-    <message id="plan_record_inside_mirror">
+    <message id="ui_plan_record_inside_mirror">
         <source></source>
         <translation>The copy reaches the place of its RAID record.</translation>
     </message>
-    <message id="plan_larger_than_used">
+    <message id="ui_plan_larger_than_used">
         <source></source>
         <translation>Only part of this disk is used: its RAID record lies before the end.</translation>
     </message>
-    <message id="plan_foreign_sectors">
+    <message id="ui_plan_foreign_sectors">
         <source></source>
         <translation>Its sectors do not have 512 bytes.</translation>
     </message>
-    <message id="copy_failed">
+    <message id="ui_copy_failed">
         <source></source>
         <translation>The safety copy of the RAID records could not be written: %1. Go on without it?</translation>
     </message>
-    <message id="too_small_for_rebuild_1">
+    <message id="ui_too_small_for_rebuild_1">
         <source></source>
         <translation>Disk 1 is too small by %1 sectors.</translation>
     </message>
-    <message id="too_small_for_rebuild_2">
+    <message id="ui_too_small_for_rebuild_2">
         <source></source>
         <translation>Disk 2 is too small by %1 sectors.</translation>
     </message>
-    <message id="restart_named">
+    <message id="ui_restart_named">
         <source></source>
         <translation>Restart %1</translation>
     </message>
-    <message id="plan_copy_unfinished">
+    <message id="ui_plan_copy_unfinished">
         <source></source>
         <translation>The copy onto this disk is not finished.</translation>
+    </message>
+    <message id="ui_verdict_none">
+        <source></source>
+        <translation>No enclosure</translation>
+    </message>
+    <message id="ui_verdict_scanning">
+        <source></source>
+        <translation>Scanning</translation>
+    </message>
+    <message id="ui_verdict_no_disks">
+        <source></source>
+        <translation>No disks</translation>
+    </message>
+    <message id="ui_verdict_healthy">
+        <source></source>
+        <translation>Healthy</translation>
+    </message>
+    <message id="ui_verdict_degraded">
+        <source></source>
+        <translation>Degraded</translation>
+    </message>
+    <message id="ui_verdict_differ">
+        <source></source>
+        <translation>Copies differ</translation>
+    </message>
+    <message id="ui_verdict_broken">
+        <source></source>
+        <translation>Broken</translation>
+    </message>
+    <message id="ui_verdict_rebuilding">
+        <source></source>
+        <translation>Rebuilding</translation>
+    </message>
+    <message id="ui_state_mirror">
+        <source></source>
+        <translation>Both disks hold the same data.</translation>
+    </message>
+    <message id="ui_state_no_copy">
+        <source></source>
+        <translation>Both disks answer. There is no second copy.</translation>
+    </message>
+    <message id="ui_state_copying">
+        <source></source>
+        <translation>Disk %1 is being copied onto Disk %2.</translation>
+    </message>
+    <message id="ui_step_connect">
+        <source></source>
+        <translation>Connect the enclosure by USB or FireWire.</translation>
+    </message>
+    <message id="ui_step_switch_on">
+        <source></source>
+        <translation>Switch it on and wait a few seconds.</translation>
+    </message>
+    <message id="ui_step_wait">
+        <source></source>
+        <translation>It appears here by itself, or press %1.</translation>
+    </message>
+    <message id="ui_advice_none">
+        <source></source>
+        <translation>Still nothing? Check its power supply, then try another cable or port.</translation>
+    </message>
+    <message id="ui_advice_no_disks">
+        <source></source>
+        <translation>Both bays are empty. Put a disk in; it appears here by itself.</translation>
+    </message>
+    <message id="ui_advice_one_disk">
+        <source></source>
+        <translation>Bay %1 is empty. To create an array, put a second disk into it.</translation>
+    </message>
+    <message id="ui_advice_pair">
+        <source></source>
+        <translation>Two separate disks. To join them, choose a kind below and press %1; everything on both disks is then lost.</translation>
+    </message>
+    <message id="ui_advice_mirror">
+        <source></source>
+        <translation>Either disk may fail without loss. Nothing to do.</translation>
+    </message>
+    <message id="ui_advice_stripe">
+        <source></source>
+        <translation>Data is spread over both disks. If one fails, everything is lost: keep a copy elsewhere.</translation>
+    </message>
+    <message id="ui_advice_span">
+        <source></source>
+        <translation>Disk 2 continues where Disk 1 ends. If one fails, its share of the data is lost: keep a copy elsewhere.</translation>
+    </message>
+    <message id="ui_advice_missing">
+        <source></source>
+        <translation>Disk %1 is missing, so there is one copy only, on Disk %2. Put a disk of at least %3 into bay %1; you can then rebuild.</translation>
+    </message>
+    <message id="ui_advice_fresh">
+        <source></source>
+        <translation>Only Disk %1 holds a copy of this RAID 1. To have two again, copy it onto Disk %2 with the button “%3” below.</translation>
+    </message>
+    <message id="ui_advice_small">
+        <source></source>
+        <translation>Only Disk %1 holds a copy of this RAID 1, and Disk %2 is too small for a second one. Put a disk of at least %3 into bay %2.</translation>
+    </message>
+    <message id="ui_advice_differ">
+        <source></source>
+        <translation>Both disks hold a copy of the same RAID 1, but the copies differ; the record on Disk %1 is the later one. Choose which copy to keep.</translation>
+    </message>
+    <message id="ui_advice_differ_undated">
+        <source></source>
+        <translation>Both disks hold a copy of a RAID 1, but the copies do not belong together. Choose which one to keep.</translation>
+    </message>
+    <message id="ui_advice_half">
+        <source></source>
+        <translation>Half of this array is missing. Put its other disk back to reach the data. Clear Disk %1 only if the data is no longer needed.</translation>
+    </message>
+    <message id="ui_advice_halves">
+        <source></source>
+        <translation>The records on the two disks do not belong together. Put the disks of one array back to reach its data. Clear a disk only if its data is no longer needed.</translation>
+    </message>
+    <message id="ui_advice_rebuilding">
+        <source></source>
+        <translation>The volume can be used meanwhile. Until the copy is complete, only Disk %1 holds all data: do not switch off or unplug.</translation>
+    </message>
+    <message id="ui_reason_no_enclosure">
+        <source></source>
+        <translation>No enclosure is attached.</translation>
+    </message>
+    <message id="ui_reason_scanning">
+        <source></source>
+        <translation>The enclosures are being read.</translation>
+    </message>
+    <message id="ui_reason_bay_empty">
+        <source></source>
+        <translation>Needs two disks: bay %1 is empty.</translation>
+    </message>
+    <message id="ui_reason_no_disks">
+        <source></source>
+        <translation>Needs two disks: both bays are empty.</translation>
+    </message>
+    <message id="ui_reason_rebuild_running">
+        <source></source>
+        <translation>A rebuild is running.</translation>
+    </message>
+    <message id="ui_reason_choose_kind">
+        <source></source>
+        <translation>Choose RAID 0, RAID 1 or span first.</translation>
+    </message>
+    <message id="ui_reason_no_array">
+        <source></source>
+        <translation>There is no array to delete.</translation>
+    </message>
+    <message id="ui_reason_incomplete">
+        <source></source>
+        <translation>The array is not complete. Clear its disks one by one.</translation>
+    </message>
+    <message id="ui_reason_no_mirror">
+        <source></source>
+        <translation>Disk %1 holds no copy of a RAID 1.</translation>
+    </message>
+    <message id="ui_reason_same_data">
+        <source></source>
+        <translation>Both disks already hold the same data.</translation>
+    </message>
+    <message id="ui_reason_other_array">
+        <source></source>
+        <translation>The disks form an array that has no copies.</translation>
+    </message>
+    <message id="ui_reason_no_target">
+        <source></source>
+        <translation>Bay %1 is empty: there is no disk to copy onto.</translation>
+    </message>
+    <message id="ui_record">
+        <source></source>
+        <translation>record %1</translation>
+    </message>
+    <message id="ui_stays">
+        <source></source>
+        <translation>stays</translation>
+    </message>
+    <message id="ui_overwritten">
+        <source></source>
+        <translation>overwritten</translation>
+    </message>
+    <message id="ui_in_use">
+        <source></source>
+        <translation>in use</translation>
+    </message>
+    <message id="ui_source">
+        <source></source>
+        <translation>source</translation>
+    </message>
+    <message id="ui_target">
+        <source></source>
+        <translation>target</translation>
+    </message>
+    <message id="ui_left_hours">
+        <source></source>
+        <translation>about %1 h %2 min left</translation>
+    </message>
+    <message id="ui_left_minutes">
+        <source></source>
+        <translation>about %1 min left</translation>
+    </message>
+    <message id="ui_left_soon">
+        <source></source>
+        <translation>less than a minute left</translation>
+    </message>
+    <message id="ui_stalled">
+        <source></source>
+        <translation>stalled</translation>
+    </message>
+    <message id="ui_changing">
+        <source></source>
+        <translation>Changing the array …</translation>
+    </message>
+    <message id="ui_changing_advice">
+        <source></source>
+        <translation>The records of the disks are being written. Do not switch off or unplug.</translation>
+    </message>
+    <message id="ui_guide">
+        <source></source>
+        <translation>A disk has failed</translation>
+    </message>
+    <message id="ui_guide_link">
+        <source></source>
+        <translation>What to do when a disk has failed</translation>
+    </message>
+    <message id="ui_guide_keep">
+        <source></source>
+        <translation>Keep what is left</translation>
+    </message>
+    <message id="ui_guide_keep_text">
+        <source></source>
+        <translation>The other disk of a RAID 1 holds all your data, and the array goes on with it. Copy what you cannot lose to another place now. Do not create, delete or clear anything.</translation>
+    </message>
+    <message id="ui_guide_find">
+        <source></source>
+        <translation>Find the failed disk</translation>
+    </message>
+    <message id="ui_guide_find_text">
+        <source></source>
+        <translation>The page “%1” shows which bay is empty. The other disk’s serial number stands on “%2”: compare it with the label before you take a disk out.</translation>
+    </message>
+    <message id="ui_guide_replace">
+        <source></source>
+        <translation>Put in a new disk</translation>
+    </message>
+    <message id="ui_guide_replace_text">
+        <source></source>
+        <translation>It must be at least as large as the old one. Everything on it will be overwritten, so use one that holds nothing you need.</translation>
+    </message>
+    <message id="ui_guide_rebuild">
+        <source></source>
+        <translation>Rebuild</translation>
+    </message>
+    <message id="ui_guide_rebuild_text">
+        <source></source>
+        <translation>On the tab “%1”, press the button whose arrow points from the disk that is left to the new one. Keep the enclosure switched on until the program says that the rebuild is complete.</translation>
+    </message>
+    <message id="ui_guide_no_copy">
+        <source></source>
+        <translation>RAID 0 and span keep no second copy. Try the disk again with another cable or bay; if it has failed, only a backup helps.</translation>
+    </message>
+    <message id="ui_open_window">
+        <source></source>
+        <translation>Show window</translation>
     </message>
 </context>
 </TS>

@@ -13,7 +13,7 @@ def agrees(name):
 def an_empty_desk_shows_no_enclosure():
     global program
     program = Program()
-    wait_for("the empty window", lambda: program.says(L["no_enclosure"]))
+    wait_for("the empty window", lambda: program.says(L["ui_no_enclosure"]))
     check("entries", program.entries(), [])
 
 
@@ -73,7 +73,7 @@ def an_unplugged_enclosure_leaves_the_list():
 
 def a_rebuild_is_followed_to_its_end():
     enclosure("unplug", "stripe")
-    wait_for("an empty list", lambda: program.says(L["no_enclosure"]) and not program.entries())
+    wait_for("an empty list", lambda: program.says(L["ui_no_enclosure"]) and not program.entries())
     enclosure("scenario", "mirror", "rebuild")
     enclosure("rate", "mirror", "unlimited")
     enclosure("plug", "mirror")

@@ -50,7 +50,7 @@ def create(row, picture, *disks):
     program.choose_row(row)
     wait_for("the create button", lambda: program.enabled("confirmbutton"))
     change(lambda: program.press("confirmbutton"), L["all_data_lost"], picture,
-           [(disk, "plan_all_lost") for disk in disks])
+           [(disk, "ui_plan_all_lost") for disk in disks])
 
 
 def two_new_disks_are_in_no_array():
@@ -131,7 +131,7 @@ def it_is_copied_to_the_new_disk():
     enclosure("fault", "box", "fail", "read", "--port", "0", "--lba", str(HOLD))
     source = a.digest(0, AREA)
     change(lambda: program.press("rebuild0to1button"), L["disk1_to_disk2"], "panel-rebuild",
-           [(a, "plan_read"), (c, "plan_overwritten")])
+           [(a, "ui_plan_read"), (c, "ui_plan_overwritten")])
     program.await_text("raidmodelabel", L["raid_1"] + L["rebuilding"])
     agree()
     wait_for("progress", lambda: 0 < percentage() < 37)
@@ -159,7 +159,7 @@ def a_deleted_mirror_keeps_its_data():
     before = a.digest(0, AREA), c.digest(0, AREA)
     wait_for("the delete button", lambda: program.enabled("clearconfigbutton"))
     change(lambda: program.press("clearconfigbutton"), L["all_data_lost"], "panel-delete-mirror",
-           [(a, "plan_keeps_data"), (c, "plan_keeps_data")])
+           [(a, "ui_plan_keeps_data"), (c, "ui_plan_keeps_data")])
     program.await_text("disk1modefield", L["not_config"])
     agree()
     check("array", array()["state"], "plain")
@@ -190,7 +190,7 @@ def a_disk_of_a_broken_pair_is_wiped():
     wait_for("the wipe button", lambda: program.enabled("cleardisk0button"))
     check("the other wipe button", program.enabled("cleardisk1button"), False)
     change(lambda: program.press("cleardisk0button"), L["all_data_lost"], "panel-wipe",
-           [(a, "plan_all_lost"), (d, "plan_untouched")])
+           [(a, "ui_plan_all_lost"), (d, "ui_plan_untouched")])
     program.await_text("disk0modefield", L["not_config"])
     agree()
     check("its first sectors", a.read(0, 64), bytes(64 * 512))

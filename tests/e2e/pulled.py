@@ -87,7 +87,7 @@ def answer_all(until):
 
 
 def nothing_there():
-    return program.says(L["no_enclosure"])
+    return program.says(L["ui_no_enclosure"])
 
 
 def bay_is_empty(port):

@@ -28,7 +28,7 @@ def the_demo_set_is_listed():
 
 def a_killed_service_takes_its_enclosures_along():
     os.kill(service_pid(), signal.SIGKILL)
-    wait_for("an empty list", lambda: program.says(L["no_enclosure"]) and not program.entries())
+    wait_for("an empty list", lambda: program.says(L["ui_no_enclosure"]) and not program.entries())
     check("the program starts no service", service_pid(), None)
 
 

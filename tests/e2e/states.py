@@ -46,7 +46,7 @@ def step(language, locale, scale, state):
 
 def the_empty_desk():
     program = Program()
-    wait_for("the empty window", lambda: program.says(texts()["no_enclosure"]))
+    wait_for("the empty window", lambda: program.says(texts()["ui_no_enclosure"]))
     program.picture("no-enclosure")
     check("status", program.end()[0], 0)
 

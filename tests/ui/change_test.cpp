@@ -154,8 +154,8 @@ TEST_F(change, WipeReachesItsOwnDiskOnly) {
     EXPECT_THAT(talk(), ElementsAre(asked, "copy kept"));
     EXPECT_EQ(writes(), 65U);
     EXPECT_EQ(log.count("krFlushHDDCache"), 1U);
-    EXPECT_EQ(panels.last.plan->cards[0].fate, "plan_untouched");
-    EXPECT_EQ(panels.last.plan->cards[1].fate, "plan_all_lost");
+    EXPECT_EQ(panels.last.plan->cards[0].fate, "ui_plan_untouched");
+    EXPECT_EQ(panels.last.plan->cards[1].fate, "ui_plan_all_lost");
 }
 
 TEST_F(change, RefusedConfirmationChangesNothingNotEvenTheButtons) {
@@ -188,7 +188,7 @@ TEST_F(change, AnyOtherAnswerOfAPanelGrants) {
 TEST_F(change, ConfirmWithNoRowSelectedDeletesTheArrayAndThePanelSaysSo) {
     window->raidconfigradiobutton->select_row(-1);
     press(window->confirmbutton);
-    EXPECT_EQ(panels.last.plan->heading, "plan_delete");
+    EXPECT_EQ(panels.last.plan->heading, "ui_plan_delete");
     EXPECT_EQ(writes(), 130U);
     EXPECT_EQ(restarts(), 1U);
 }
@@ -196,7 +196,7 @@ TEST_F(change, ConfirmWithNoRowSelectedDeletesTheArrayAndThePanelSaysSo) {
 TEST_F(change, ConfirmWithTheLastRowDeletesTheArrayAndThePanelSaysSo) {
     window->raidconfigradiobutton->select_row(3);
     press(window->confirmbutton);
-    EXPECT_EQ(panels.last.plan->heading, "plan_delete");
+    EXPECT_EQ(panels.last.plan->heading, "ui_plan_delete");
     EXPECT_EQ(writes(), 130U);
 }
 
@@ -402,7 +402,7 @@ TEST_F(swapped, DiskExchangedWhileAMonitorsPanelHoldsUpTheChangeIsFoundOut) {
 
 class without_copy : public change {
 protected:
-    const std::string question = "panel warning [warning] copy_failed (ok) (cancel)";
+    const std::string question = "panel warning [warning] ui_copy_failed (ok) (cancel)";
 
     void SetUp() override {
         change::SetUp();
@@ -482,7 +482,7 @@ TEST_F(change, RestartReachesNoOtherThanTheOneThatIsNamed) {
 
 TEST_F(change, RestartControlNamesTheFirstOfTheListAndIsOffWithoutOne) {
     EXPECT_FALSE(window->extras->warmbootbutton->isEnabled());
-    texts.set("restart_named", "Restart %1");
+    texts.set("ui_restart_named", "Restart %1");
     read_named_bridge();
     EXPECT_TRUE(window->extras->warmbootbutton->isEnabled());
     EXPECT_THAT(window->extras->warmbootbutton->accessibleName().toStdString(),
@@ -492,7 +492,7 @@ TEST_F(change, RestartControlNamesTheFirstOfTheListAndIsOffWithoutOne) {
 }
 
 TEST_F(change, ReplacementTooSmallKeepsTheButtonOffAndTheTipSaysByHowMuch) {
-    texts.set("too_small_for_rebuild_2", "Disk 2 is too small by %1 sectors.");
+    texts.set("ui_too_small_for_rebuild_2", "Disk 2 is too small by %1 sectors.");
     forget_all();
     show_chip([](krchip& chip) {
         put_disk(chip.disks[0], 2'000'000, mode_raid1, 1'999'984);

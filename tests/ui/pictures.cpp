@@ -211,7 +211,7 @@ TEST_F(pictures, ConfirmACopyWithoutItsTarget) {
 }
 
 TEST_F(pictures, CopyFailure) {
-    std::string message = translated("copy_failed");
+    std::string message = translated("ui_copy_failed");
     message.replace(message.find("%1"), 2,
                     "/home/somebody/.local/state/kestrelraid/safety-copies/"
                     "2026-11-21T08-55-01-WD-WCC4M0XJ2K7L.json: No space left on device");

@@ -357,7 +357,7 @@ TEST_F(status_order, EmptyListSaysThatNoEnclosureIsAttached) {
     update();
     const auto* note = window->guitab->findChild<text_field*>("note_heading");
     ASSERT_NE(note, nullptr);
-    EXPECT_EQ(note->text(), QStringLiteral("no_enclosure"));
+    EXPECT_EQ(note->text(), QStringLiteral("ui_no_enclosure"));
     EXPECT_FALSE(note->isHidden());
     window->cleargui();
     EXPECT_TRUE(note->isHidden());
