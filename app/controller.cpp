@@ -33,7 +33,8 @@ controller::controller(const window_parts& parts)
       runner_(parts.bridge, guard_, parts.workers, [this] { obey_remembered_exit(); }),
       own_panels_(guard_),
       panels_(parts.panels != nullptr ? *parts.panels : own_panels_),
-      tree_model_(std::make_unique<tree_model>()) {
+      tree_model_(std::make_unique<tree_model>()),
+      now_(parts.now) {
     build_window_contents(*this);
     own_panels_.show_over(mainview);
     guard_.always_serve(minimizebutton, true);

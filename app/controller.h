@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QStackedWidget>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
 #include "app/body_runner.h"
+#include "app/copy_pace.h"
 #include "app/input_guard.h"
 #include "app/outlet_writer.h"
 #include "app/panel.h"
@@ -35,6 +37,7 @@ class treeview;
 class ui_bridge;
 class working_indicator;
 struct controller_t;
+struct outlook;
 struct window_extras;
 
 // What the controller is given. Everything outlives it.
@@ -45,6 +48,7 @@ struct window_parts {
     copy_keeper& copies;             // of the records, before they are changed
     const treeview& tree;            // the data of the device tree; the records lock guards it
     panel_answers* panels = nullptr; // none: the user answers
+    std::function<copy_pace::time_point()> now = std::chrono::steady_clock::now;
 };
 
 // The operations of `window` may be called by any thread and return when they are done; those
@@ -203,7 +207,7 @@ private:
     void enable_buttons(bool rebuild_only, bool enabled);
     disk_outlets outlets_of_disk(std::size_t port);
     void show_status();
-    void apply(const view_state& view);
+    void apply(const view_state& view, const outlook& now);
     void apply_disk(const disk_view& view, std::size_t port, bool single);
     void apply_array(const view_state& view);
     void show_alerts(const view_state& view, chip_place place);
@@ -238,4 +242,6 @@ private:
     tabviewdel tab_gate_;
     std::unique_ptr<tree_model> tree_model_;
     bool exit_remembered_ = false;
+    const std::function<copy_pace::time_point()> now_;
+    copy_pace pace_; // of the rebuild that is shown
 };

@@ -7,6 +7,7 @@
 #include "app/main_window.h"
 #include "app/plain_text.h"
 #include "app/radio_matrix.h"
+#include "app/scene.h"
 #include "app/text_field.h"
 #include "app/window_extras.h"
 #include "app/working_indicator.h"
@@ -112,6 +113,9 @@ void controller::updatepoll(std::uint64_t end, std::uint64_t currlba, bool diskp
     ui([&] {
         outlets.set_level(levelindicator, percent);
         outlets.set_text(percentagefield, QString::number(percent, 'f', 1).toStdString() + "%");
+        if (end != 0) {
+            show_pace(*this, pace_.note(end, currlba, now_()));
+        }
     });
 }
 

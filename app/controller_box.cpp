@@ -50,6 +50,10 @@ void controller_box::add_entry(const QString& text, const controller_t& identity
     set_text(shown);
 }
 
+void controller_box::set_placeholder(const QString& text) {
+    lineEdit()->setPlaceholderText(text);
+}
+
 void controller_box::set_text(const QString& text) {
     setEditText(text);
     lineEdit()->setCursorPosition(0);

@@ -18,6 +18,8 @@ public:
     void remove_all();
     // Each entry remembers whom it stands for.
     void add_entry(const QString& text, const controller_t& identity);
+    // What stands faintly in the box while nothing else does.
+    void set_placeholder(const QString& text);
     // What stands in the box; no entry is touched.
     void set_text(const QString& text);
     // Selects without telling the delegate.

@@ -4,6 +4,7 @@
 #include "app/display_text.h"
 #include "app/radio_matrix.h"
 #include "app/safety_copy.h"
+#include "app/scene.h"
 #include "app/window_extras.h"
 #include "model/krtool.h"
 
@@ -26,6 +27,7 @@ void controller::confirm() {
     const outcome end = carry_out(plan, [this, mode](std::int32_t chip) {
         cleargui();
         disablegui(false);
+        ui([this] { show_changing_scene(*this); });
         return j.build_raid(chip, mode, true);
     });
     report_and_refresh(end, "raid_create_error");
@@ -38,6 +40,7 @@ void controller::clearconfiguration() {
     }
     const outcome end = carry_out(plan, [this](std::int32_t chip) {
         cleargui();
+        ui([this] { show_changing_scene(*this); });
         return j.clear_raid(chip);
     });
     report_and_refresh(end, "raid_delete_error");
@@ -175,7 +178,7 @@ bool controller::goes_on_without_copy(const std::string& trouble) {
     ui([&] {
         go_on = !exit_remembered_ && answered_yes({panel_kind::warning,
                                                    s_warning,
-                                                   filled(localised("ui_copy_failed"), trouble),
+                                                   filled(localised("ui_copy_failed"), {trouble}),
                                                    {s_ok, s_cancel}});
     });
     return go_on;

@@ -6,6 +6,7 @@
 #include "app/controller.h"
 #include "app/krview.h"
 #include "app/level_indicator.h"
+#include "app/outlook.h"
 #include "app/scene.h"
 #include "app/text_field.h"
 #include "model/krtool.h"
@@ -77,6 +78,7 @@ void controller::cleargui() {
         disablegui(false);
         outlets.needs_display(mainview);
         clear_scene(*this);
+        pace_.forget();
     });
 }
 
@@ -122,7 +124,7 @@ void controller::show_status() {
         cleargui();
         disablegui(false);
         if (!view.blank) {
-            apply(view);
+            apply(view, outlook_of(current->chip, decimal_units, j.with.texts));
         } else if (!j.has_chips()) {
             show_empty_scene(*this);
         }
@@ -145,7 +147,7 @@ void controller::show_status() {
     });
 }
 
-void controller::apply(const view_state& view) {
+void controller::apply(const view_state& view, const outlook& now) {
     for (std::size_t port = 0; port < view.disks.size(); ++port) {
         if (view.disks[port].present) {
             apply_disk(view.disks[port], port, !view.raid_valid);
@@ -157,7 +159,7 @@ void controller::apply(const view_state& view) {
     if (view.both_idle) {
         outlets.set_enabled(confirmbutton, true);
     }
-    show_chip_scene(*this, view);
+    show_chip_scene(*this, view, now);
 }
 
 void controller::apply_disk(const disk_view& view, std::size_t port, bool single) {
@@ -226,7 +228,7 @@ void controller::show_rebuild(const krchip& chip, const view_state& view, chip_p
         }
         QPushButton* direction = view.rebuild_source == 0 ? rebuild0to1button : rebuild1to0button;
         outlets.set_image(direction, "yellow.JPG");
-        mark_running(direction);
+        mark_running(*this, view.rebuild_source.value_or(0));
     });
 }
 

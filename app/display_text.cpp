@@ -1,5 +1,7 @@
 #include "app/display_text.h"
 
+#include <algorithm>
+
 #include "util/functions.h"
 
 std::string device_text(const std::string& bytes) {
@@ -16,10 +18,34 @@ std::string device_text(const std::string& bytes) {
     return utf8;
 }
 
-std::string filled(std::string text, const std::string& value) {
-    constexpr std::string_view place = "%1";
-    if (const std::size_t at = text.find(place); at != std::string::npos) {
-        text.replace(at, place.size(), value);
+std::string filled(const std::string& text, std::initializer_list<std::string> values) {
+    std::string result;
+    std::size_t from = 0;
+    for (std::size_t at = text.find('%'); at != std::string::npos; at = text.find('%', at + 1)) {
+        const std::size_t place =
+            at + 1 < text.size() ? static_cast<unsigned char>(text[at + 1]) : 0;
+        if (place < '1' || place - '1' >= values.size()) {
+            continue;
+        }
+        result.append(text, from, at - from).append(values.begin()[place - '1']);
+        from = at + 2;
     }
-    return text;
+    return result.append(text, from);
+}
+
+std::string number_of(std::size_t port) {
+    return inttostring(port + 1);
+}
+
+std::string time_of_record(const std::array<unsigned char, raid_time_size>& stamp) {
+    constexpr std::size_t digits = 14; // YYYYMMDDhhmmss
+    const std::string text(stamp.begin(), stamp.begin() + digits);
+    const bool is_time = std::all_of(text.begin(), text.end(), [](char character) {
+        return character >= '0' && character <= '9';
+    });
+    if (!is_time) {
+        return {};
+    }
+    return text.substr(0, 4) + "-" + text.substr(4, 2) + "-" + text.substr(6, 2) + " " +
+           text.substr(8, 2) + ":" + text.substr(10, 2);
 }

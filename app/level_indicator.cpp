@@ -1,23 +1,47 @@
 #include "app/level_indicator.h"
 
 #include <QPainter>
+#include <QStyle>
 #include <algorithm>
 
 namespace {
 
 constexpr double full = 100.0;
+constexpr int glide_time = 300; // ms
 
 } // namespace
 
 level_indicator::level_indicator(QWidget* parent) : QProgressBar(parent) {
     setRange(0, static_cast<int>(full));
     setTextVisible(false);
+    glide_.setEasingCurve(QEasingCurve::OutCubic);
+    glide_.setDuration(glide_time);
+    connect(&glide_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& value) { show_level(value.toDouble()); });
     set_level(0.0);
 }
 
 void level_indicator::set_level(double percent) {
     level_ = std::clamp(percent, 0.0, full);
     setValue(static_cast<int>(level_));
+    glide_.stop();
+    const bool motion = style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
+    if (!motion || !isVisible() || level_ < shown_) {
+        show_level(level_);
+        return;
+    }
+    glide_.setStartValue(shown_);
+    glide_.setEndValue(level_);
+    glide_.start();
+}
+
+void level_indicator::set_stalled(bool stalled) {
+    stalled_ = stalled;
+    update();
+}
+
+void level_indicator::show_level(double percent) {
+    shown_ = percent;
     update();
 }
 
@@ -32,13 +56,13 @@ void level_indicator::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(well, radius, radius);
 
     QRectF filled = well.adjusted(0.5, 0.5, -0.5, -0.5);
-    filled.setWidth(filled.width() * level_ / full);
+    filled.setWidth(filled.width() * shown_ / full);
     if (filled.width() < head_width) {
         return;
     }
     QLinearGradient light(filled.topLeft(), filled.bottomLeft());
-    light.setColorAt(0, QColor(0xa9, 0xe0, 0xf7));
-    light.setColorAt(1, QColor(0x6f, 0xc3, 0xe6));
+    light.setColorAt(0, stalled_ ? QColor(0x8f, 0x9e, 0xac) : QColor(0xa9, 0xe0, 0xf7));
+    light.setColorAt(1, stalled_ ? QColor(0x8f, 0x9e, 0xac) : QColor(0x6f, 0xc3, 0xe6));
     painter.setPen(Qt::NoPen);
     painter.setBrush(light);
     painter.drawRoundedRect(filled, radius - 1, radius - 1);

@@ -24,20 +24,32 @@ QPalette dark_palette() {
     return palette;
 }
 
-QFont text_font() {
+// The same Chinese character looks different from country to country.
+QString eastern_family(const QString& language) {
+    if (language == QLatin1String("ja")) {
+        return QStringLiteral("Noto Sans CJK JP");
+    }
+    if (language == QLatin1String("ko")) {
+        return QStringLiteral("Noto Sans CJK KR");
+    }
+    return language == QLatin1String("zh_TW") ? QStringLiteral("Noto Sans CJK TC")
+                                              : QStringLiteral("Noto Sans CJK SC");
+}
+
+QFont text_font(const QString& language) {
     QFont font;
     font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans"),
-                      QStringLiteral("Noto Sans CJK SC"), QStringLiteral("DejaVu Sans")});
+                      eastern_family(language), QStringLiteral("DejaVu Sans")});
     font.setPixelSize(13);
     return font;
 }
 
 } // namespace
 
-void apply_look(QApplication& application) {
+void apply_look(QApplication& application, const QString& language) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(dark_palette());
-    QApplication::setFont(text_font());
+    QApplication::setFont(text_font(language));
     QFile sheet(QStringLiteral(":/lumen.qss"));
     if (sheet.open(QIODevice::ReadOnly)) {
         application.setStyleSheet(QString::fromUtf8(sheet.readAll()));

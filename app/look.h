@@ -2,6 +2,8 @@
 #pragma once
 
 class QApplication;
+class QString;
 
-// Interface thread, before the first widget.
-void apply_look(QApplication& application);
+// The language, as our tables name it, decides which signs Chinese characters have. Interface
+// thread, before the first widget.
+void apply_look(QApplication& application, const QString& language);

@@ -45,7 +45,9 @@ namespace {
 // The program leaves from here with every thread still alive.
 int run(QApplication& application) {
     QTranslator translator;
-    install_language(translator, language_for(QLocale::system().uiLanguages()));
+    const QString language = language_for(QLocale::system().uiLanguages());
+    install_language(translator, language);
+    apply_look(application, language);
     texts.load(translated);
     ui_bridge bridge;
     controller window({bridge, threads, version, copies, static_cast<const treeview&>(*j.tree)});
@@ -72,6 +74,5 @@ int main(int argc, char* argv[]) {
     QApplication::setDesktopFileName(QStringLiteral("org.kestrelraid.KestrelRaid"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/kestrelraid.png")));
     QApplication::setQuitOnLastWindowClosed(false);
-    apply_look(application);
     return run(application);
 }

@@ -9,7 +9,7 @@ namespace {
 std::string heading_of(const change_plan& plan, const text_lookup& texts) {
     switch (plan.what) {
     case array_change::create:
-        return filled(texts.text("ui_plan_create"), mode_name(plan.mode, texts));
+        return filled(texts.text("ui_plan_create"), {mode_name(plan.mode, texts)});
     case array_change::clear_array:
         return texts.text("ui_plan_delete");
     case array_change::clear_disk0:
@@ -57,7 +57,8 @@ fate_tone tone_of(disk_fate fate) {
 std::vector<std::string> warnings_of(const planned_disk& disk, const text_lookup& texts) {
     std::vector<std::string> lines;
     if (disk.missing_sectors != 0) {
-        lines.push_back(filled(texts.text("ui_plan_too_small"), inttostring(disk.missing_sectors)));
+        lines.push_back(
+            filled(texts.text("ui_plan_too_small"), {inttostring(disk.missing_sectors)}));
     }
     if (disk.record_inside_mirror) {
         lines.push_back(texts.text("ui_plan_record_inside_mirror"));

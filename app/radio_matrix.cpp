@@ -49,6 +49,24 @@ void radio_matrix::set_row_text(int row, const QString& name, const QString& mea
     widgets.button->setAccessibleDescription(meaning);
 }
 
+void radio_matrix::set_in_use_text(const QString& text) {
+    in_use_text_ = text;
+}
+
+void radio_matrix::set_in_use(std::optional<int> row) {
+    constexpr int gap = 8;
+    for (int other = 0; other < rows; ++other) {
+        const row_widgets& widgets = rows_[static_cast<std::size_t>(other)];
+        widgets.name->ensurePolished();
+        const int name_width = widgets.name->fontMetrics().horizontalAdvance(widgets.name->text());
+        const QRect name = widgets.name->geometry();
+        widgets.in_use->setGeometry(name.left() + name_width + gap, name.top(),
+                                    name.width() - name_width - gap, name.height());
+        widgets.in_use->fit_text(Qt::AlignLeft);
+        widgets.in_use->set_value(row == other ? in_use_text_ : QString());
+    }
+}
+
 int radio_matrix::selected_row() const {
     return group_.checkedId();
 }
@@ -103,7 +121,10 @@ radio_matrix::row_widgets radio_matrix::make_row(int row) {
     auto* meaning = new text_field(frame);
     meaning->setProperty("role", "small");
     meaning->setGeometry(90, 24, 292, 16);
-    return {frame, button, name, meaning};
+    auto* in_use = new text_field(frame);
+    in_use->setProperty("role", "tag");
+    in_use->setProperty("tone", "busy");
+    return {frame, button, name, meaning, in_use};
 }
 
 void radio_matrix::take_choice(int row) {

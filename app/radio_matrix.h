@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QFrame;
@@ -21,6 +22,10 @@ public:
     // Is called when the user has chosen a row; false puts the row before it back.
     void set_delegate(std::function<bool()> chosen);
     void set_row_text(int row, const QString& name, const QString& meaning);
+    // The tag on the row of the array that exists.
+    void set_in_use_text(const QString& text);
+    // Which row that is; none takes the tag away. Has nothing to do with the choice.
+    void set_in_use(std::optional<int> row);
     // -1: no row.
     int selected_row() const;
     // The user's way of choosing.
@@ -37,6 +42,7 @@ private:
         QRadioButton* button;
         text_field* name;
         text_field* meaning;
+        text_field* in_use;
     };
 
     row_widgets make_row(int row);
@@ -46,5 +52,6 @@ private:
     QButtonGroup group_;
     std::vector<row_widgets> rows_;
     std::function<bool()> chosen_;
+    QString in_use_text_;
     int settled_ = -1; // the row that counts
 };

@@ -1,52 +1,36 @@
 #include "app/scene.h"
 
-#include <QIcon>
+#include <QFrame>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
-#include <QTreeView>
 #include <array>
 
 #include "app/controller.h"
-#include "app/controller_box.h"
-#include "app/display_text.h"
-#include "app/gated_tab_bar.h"
 #include "app/level_indicator.h"
+#include "app/numbered_step.h"
+#include "app/outlook.h"
+#include "app/pace_text.h"
 #include "app/placing.h"
 #include "app/plain_text.h"
-#include "app/radio_matrix.h"
+#include "app/scene_outlook.h"
+#include "app/styling.h"
 #include "app/tab_view.h"
 #include "app/text_field.h"
-#include "app/titled_box.h"
 #include "app/window_extras.h"
-#include "app/working_indicator.h"
 #include "model/krtool.h"
 
 namespace {
 
-constexpr QRect disk0_picture_place(140, 120, 104, 120);
-constexpr QRect disk0_capacity_place(260, 204, 176, 32);
 constexpr QRect volume_picture_place(148, 120, 216, 120);
 constexpr QRect volume_capacity_place(388, 204, 368, 32);
-constexpr QRect empty_picture_place(140, 122, 216, 120);
+constexpr QRect disk0_picture_place(140, 120, 104, 120);
+constexpr QRect disk0_capacity_place(260, 204, 176, 32);
+constexpr std::array<QRect, 2> dim_bay_places = {QRect(140, 120, 104, 120),
+                                                 QRect(252, 120, 104, 120)};
+constexpr QSize disk_size(104, 120);
 
 QString localised(const char* key) {
     return one_line(j.with.texts.text(key));
-}
-
-void restyle(QWidget* widget, const char* property, const QVariant& value) {
-    widget->setProperty(property, value);
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
-}
-
-void set_tone(QWidget* widget, const char* tone) {
-    restyle(widget, "tone", QLatin1String(tone));
-}
-
-void set_picture(QLabel* label, const char* name, const QRect& place) {
-    label->setPixmap(QIcon(QStringLiteral(":/%1.png").arg(QLatin1String(name)))
-                         .pixmap(place.size(), label->devicePixelRatio()));
 }
 
 const char* picture_of(disk_condition condition) {
@@ -73,121 +57,159 @@ const char* tone_of(disk_condition condition) {
     return "";
 }
 
-void show_note(controller& window, const char* heading, const char* advice) {
-    const window_extras& extras = *window.extras;
-    set_picture(extras.note_picture, "enclosure", empty_picture_place);
+void show_note(const status_extras& extras, const char* heading, const char* text,
+               int heading_top) {
+    constexpr int text_distance = 34;
+    place(extras.note_heading, QRect(404, heading_top, 352, 28));
+    place(extras.note_text, QRect(404, heading_top + text_distance, 352, 54));
     extras.note_heading->set_value(localised(heading));
-    extras.note_advice->set_value(localised(advice));
-    extras.note_picture->show();
     extras.note_heading->show();
-    extras.note_advice->show();
+    extras.note_text->set_value(text == nullptr ? QString() : localised(text));
+    extras.note_text->show();
+}
+
+// Something goes on with disks of which nothing is known at the moment.
+void show_work(controller& window, const char* heading, const char* text) {
+    constexpr int heading_top = 144;
+    clear_scene(window);
+    const status_extras& extras = window.extras->status;
+    show_note(extras, heading, text, heading_top);
+    for (std::size_t port = 0; port < extras.empty_pictures.size(); ++port) {
+        place(extras.empty_pictures[port], dim_bay_places[port]);
+        show_faint_picture(extras.empty_pictures[port], QStringLiteral("disk-missing"), disk_size);
+        extras.empty_pictures[port]->show();
+    }
+}
+
+void show_empty_bay(const status_extras& extras, std::size_t port) {
+    constexpr int bay_distance = 320;
+    place(extras.empty_pictures[port],
+          disk0_picture_place.translated(static_cast<int>(port) * bay_distance, 0));
+    show_picture(extras.empty_pictures[port], QStringLiteral("disk-missing"), disk_size);
+    extras.empty_pictures[port]->show();
+    extras.empty_captions[port]->show();
+    extras.empty_words[port]->show();
+}
+
+// On the configuration tab: the icon stands before the mode.
+void show_configured(controller& window, const disk_view& disk, std::size_t port) {
+    constexpr int row_distance = 60;
+    constexpr QRect full(548, 403, 208, 18);
+    constexpr QRect beside_icon(570, 403, 186, 18);
+    const configured_disk& extras = window.extras->configured[port];
+    text_field* mode = port == 0 ? window.disk0modefield : window.disk1modefield;
+    const bool well = disk.condition == disk_condition::good;
+    place(mode, (well ? full : beside_icon).translated(0, static_cast<int>(port) * row_distance));
+    set_tone(mode, well ? "quiet" : tone_of(disk.condition));
+    show_picture(extras.icon,
+                 disk.condition == disk_condition::broken ? QStringLiteral("status-error")
+                                                          : QStringLiteral("status-warn"),
+                 QSize(16, 16));
+    extras.icon->setVisible(!well);
+    set_tone(extras.caption, disk.present ? "" : "faint");
+    extras.nothing_in->set_value(disk.present ? QString() : localised("ui_empty_bay"));
 }
 
 void show_bay(controller& window, const disk_view& disk, std::size_t port) {
-    const window_extras& extras = *window.extras;
     text_field* picture = port == 0 ? window.disk0cappicture : window.disk1cappicture;
-    set_picture(picture, picture_of(disk.condition), disk0_picture_place);
-    const char* tone = tone_of(disk.condition);
-    set_tone(port == 0 ? window.disk0picmodefield : window.disk1picmodefield, tone);
-    set_tone(port == 0 ? window.disk0modefield : window.disk1modefield, tone);
-    QPushButton* direction = port == 0 ? window.rebuild0to1button : window.rebuild1to0button;
-    direction->setToolTip(one_line(disk.rebuild_reason));
-    extras.empty_pictures[port]->setVisible(!disk.present);
-    extras.empty_captions[port]->setVisible(!disk.present);
-    extras.empty_words[port]->setVisible(!disk.present);
+    show_picture(picture, QLatin1String(picture_of(disk.condition)), disk_size);
+    set_tone(port == 0 ? window.disk0picmodefield : window.disk1picmodefield,
+             tone_of(disk.condition));
+    show_configured(window, disk, port);
+    if (!disk.present) {
+        show_empty_bay(window.extras->status, port);
+    }
+}
+
+void hide_status_extras(const status_extras& extras) {
+    extras.enclosure_picture->hide();
+    extras.note_heading->hide();
+    extras.note_text->hide();
+    extras.bay_divider->hide();
+    for (numbered_step* step : extras.steps) {
+        step->hide();
+    }
+    for (std::size_t port = 0; port < extras.empty_pictures.size(); ++port) {
+        extras.empty_pictures[port]->hide();
+        extras.empty_captions[port]->hide();
+        extras.empty_words[port]->hide();
+    }
+}
+
+// A dash stands for what is not known.
+void clear_configured(const configured_disk& disk) {
+    disk.icon->hide();
+    set_tone(disk.caption, "faint");
+    disk.nothing_in->set_value(QStringLiteral("–"));
+}
+
+void clear_card(const rebuild_card& card) {
+    restyle(card.frame, "fate", "");
+    card.fate->set_value(QString());
 }
 
 } // namespace
 
-void caption_extras(controller& window) {
-    const window_extras& extras = *window.extras;
-    constexpr std::array<const char*, 4> kinds = {"raid_0", "raid_1", "span", "not_config"};
-    constexpr std::array<const char*, 4> meanings = {"ui_raid_0_meaning", "ui_raid_1_meaning",
-                                                     "ui_span_meaning", "ui_not_config_meaning"};
-    for (int row = 0; row < radio_matrix::rows; ++row) {
-        const auto place = static_cast<std::size_t>(row);
-        window.raidconfigradiobutton->set_row_text(row, localised(kinds[place]),
-                                                   localised(meanings[place]));
-    }
-    window.raidconfigradiobutton->setAccessibleName(localised("raid_configuration"));
-    extras.page_captions[0]->set_value(localised("raid_status"));
-    extras.page_captions[1]->set_value(localised("ui_system_information"));
-    window.mainguibutton->setAccessibleName(localised("raid_status"));
-    window.showdiskguibutton->setAccessibleName(localised("ui_system_information"));
-    for (QPushButton* button : {window.cleardisk0button, window.cleardisk1button}) {
-        button->setText(button_text(j.with.texts.text("ui_clear")));
-    }
-    window.cleardisk0button->setAccessibleName(localised("ui_clear_disk_1"));
-    window.cleardisk1button->setAccessibleName(localised("ui_clear_disk_2"));
-    window.minimizebutton->setAccessibleName(localised("ui_minimise"));
-    window.minimizebutton->setToolTip(localised("ui_minimise"));
-    window.closebutton->setAccessibleName(localised("ui_close"));
-    window.closebutton->setToolTip(localised("ui_close"));
-    window.controllerselectbox->setAccessibleName(localised("ui_controllers"));
-    window.workingindicator->setAccessibleName(localised("ui_working"));
-    show_restart_target(window, "");
-    extras.devices_box->set_title(localised("ui_devices"));
-    window.tree->setAccessibleName(localised("ui_devices"));
-    extras.rebuild_hint->set_value(localised("ui_rebuild_hint"));
-    window.levelindicator->setAccessibleName(localised("rebuild_progress"));
-    window.tabview->bar()->setAccessibleName(localised("raid_status"));
-    constexpr std::array<const char*, 2> disks = {"disk_1", "disk_2"};
-    for (std::size_t port = 0; port < disks.size(); ++port) {
-        extras.empty_captions[port]->set_value(localised(disks[port]));
-        extras.config_captions[port]->set_value(localised(disks[port]));
-        extras.empty_words[port]->set_value(localised("ui_empty_bay"));
-    }
-    mark_page_caption(window, 0);
-}
-
-void mark_page_caption(controller& window, int page) {
-    for (int other = 0; other < 2; ++other) {
-        set_tone(window.extras->page_captions[static_cast<std::size_t>(other)],
-                 other == page ? "front" : "quiet");
-    }
-}
-
 void clear_scene(controller& window) {
-    const window_extras& extras = *window.extras;
-    const std::array<QWidget*, 10> all = {extras.note_picture,      extras.note_heading,
-                                          extras.note_advice,       extras.empty_pictures[0],
-                                          extras.empty_pictures[1], extras.empty_captions[0],
-                                          extras.empty_captions[1], extras.empty_words[0],
-                                          extras.empty_words[1],    extras.bay_divider};
-    for (QWidget* widget : all) {
-        widget->hide();
+    window_extras& extras = *window.extras;
+    hide_status_extras(extras.status);
+    clear_outlook(window);
+    for (std::size_t port = 0; port < extras.cards.size(); ++port) {
+        clear_configured(extras.configured[port]);
+        clear_card(extras.cards[port]);
     }
+    extras.speed->set_value(QString());
+    extras.time_left->set_value(QString());
+    window.levelindicator->set_stalled(false);
     extras.hint_icon->show();
     extras.rebuild_hint->show();
-    window.rebuild0to1button->setToolTip({});
-    window.rebuild1to0button->setToolTip({});
+    window.tabview->set_icon(window.rebuildtab->index, QString());
     restyle(window.rebuild0to1button, "running", false);
     restyle(window.rebuild1to0button, "running", false);
 }
 
 void show_scanning_scene(controller& window) {
-    show_note(window, "ui_scanning", "ui_scanning_advice");
+    show_work(window, "ui_scanning", "ui_scanning_advice");
+    show_outlook(window, outlook_while_scanning(j.with.texts));
+}
+
+void show_changing_scene(controller& window) {
+    show_work(window, "ui_changing", "ui_changing_advice");
 }
 
 void show_empty_scene(controller& window) {
-    show_note(window, "ui_no_enclosure", "ui_no_enclosure_advice");
+    constexpr int heading_top = 118;
+    const status_extras& extras = window.extras->status;
+    show_note(extras, "ui_no_enclosure", nullptr, heading_top);
+    show_picture(extras.enclosure_picture, QStringLiteral("enclosure"), QSize(216, 120));
+    extras.enclosure_picture->show();
+    for (numbered_step* step : extras.steps) {
+        step->show();
+    }
+    show_outlook(window, outlook_without_enclosure(j.with.texts));
 }
 
-void show_chip_scene(controller& window, const view_state& view) {
+void show_chip_scene(controller& window, const view_state& view, const outlook& now) {
     for (std::size_t port = 0; port < view.disks.size(); ++port) {
         show_bay(window, view.disks[port], port);
     }
     const bool volume = view.raid_valid;
-    window.extras->bay_divider->setVisible(!volume);
+    window.extras->status.bay_divider->setVisible(!volume);
     place(window.disk0cappicture, volume ? volume_picture_place : disk0_picture_place);
     place(window.disk0caplabel, volume ? volume_capacity_place : disk0_capacity_place);
     if (volume) {
-        set_picture(window.disk0cappicture, "volume", volume_picture_place);
+        show_picture(window.disk0cappicture, QStringLiteral("volume"), volume_picture_place.size());
     }
+    if (view.rebuild_tab_for_choice) {
+        window.tabview->set_icon(window.rebuildtab->index, QStringLiteral(":/status-warn.png"));
+    }
+    show_outlook(window, now);
 }
 
-void mark_running(QPushButton* button) {
-    restyle(button, "running", true);
+void mark_running(controller& window, int source) {
+    restyle(source == 0 ? window.rebuild0to1button : window.rebuild1to0button, "running", true);
+    restyle(window.extras->cards[source == 0 ? 0 : 1].frame, "fate", "stays");
+    window.tabview->set_icon(window.rebuildtab->index, QStringLiteral(":/yellow.JPG"));
 }
 
 void show_progress_scene(controller& window) {
@@ -195,15 +217,10 @@ void show_progress_scene(controller& window) {
     window.extras->rebuild_hint->hide();
 }
 
-void show_restart_target(controller& window, const std::string& name) {
-    QPushButton* button = window.extras->warmbootbutton;
-    const std::string text = name.empty() ? j.with.texts.text("ui_restart_enclosure")
-                                          : filled(j.with.texts.text("ui_restart_named"), name);
-    constexpr int padding = 24;
-    const QString shown = button->fontMetrics().elidedText(one_line(text), Qt::ElideMiddle,
-                                                           button->width() - padding);
-    button->setText(button_text(shown.toStdString()));
-    button->setAccessibleName(one_line(text));
-    button->setToolTip(tip_text(one_line(text)));
-    button->setEnabled(!name.empty());
+void show_pace(controller& window, const pace_view& pace) {
+    const window_extras& extras = *window.extras;
+    window.levelindicator->set_stalled(pace.stalled);
+    set_tone(extras.speed, pace.stalled ? "warn" : "quiet");
+    extras.speed->set_value(one_line(speed_text(pace, j.with.texts)));
+    extras.time_left->set_value(one_line(time_left_text(pace, j.with.texts)));
 }

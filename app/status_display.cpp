@@ -29,17 +29,6 @@ bool can_rebuild_onto(const krchip& chip, const krdisk& source, const krdisk& ta
            chip.raid_valid == 0 && source.raid_capacity <= target.capacity;
 }
 
-std::string reason_against_rebuild(const krchip& chip, std::size_t port, const text_lookup& texts) {
-    const krdisk& source = chip.disks[port];
-    const krdisk& target = chip.disks[1 - port];
-    if (source.raid_mode != mode_raid1 || target.present == 0 || chip.raid_valid != 0 ||
-        source.raid_capacity <= target.capacity) {
-        return {};
-    }
-    return filled(texts.text(port == 0 ? "ui_too_small_for_rebuild_2" : "ui_too_small_for_rebuild_1"),
-                  inttostring(source.raid_capacity - target.capacity));
-}
-
 disk_condition condition_of(const krchip& chip, const krdisk& disk) {
     if (disk.member_mismatch != 0) {
         return disk_condition::broken;
@@ -86,7 +75,6 @@ disk_view view_of_disk(const krchip& chip, std::size_t port, bool decimal_units,
     view.sizefield = size_text(disk.capacity, decimal_units);
     view.rebuilddiskfield = mode_name(disk.raid_mode, texts);
     view.rebuildbutton = can_rebuild_onto(chip, disk, chip.disks[1 - port]);
-    view.rebuild_reason = reason_against_rebuild(chip, port, texts);
     view.oldnewlabel = age_word(disk, texts);
     view.cleardiskbutton = disk.is_member() && chip.raid_valid == 0;
     view.modefield = mode_text(chip, disk, texts);

@@ -29,7 +29,6 @@ struct disk_view {
     bool cappicture = false;      // shown
     bool cleardiskbutton = false; // enabled and shown
     bool rebuildbutton = false;   // the one from this disk to the other is enabled
-    std::string rebuild_reason;   // why it is not, where the other disk is too small
 };
 
 // Everything that an update shows and does beyond the blank state.

@@ -1,6 +1,7 @@
 #include "app/string_table.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 std::string string_table::text(std::string_view key) const {
     const auto found = texts_.find(key);
@@ -15,15 +16,38 @@ void string_table::load(const std::function<std::string(std::string_view key)>& 
     }
 }
 
+namespace {
+
+// The table for a language as BCP 47 writes it; empty: there is none.
+QString table_for(const QString& wish) {
+    const QStringList parts = wish.split(QLatin1Char('-'));
+    const QString& language = parts.front();
+    if (language == QLatin1String("zh")) {
+        const QStringList traditional = {QStringLiteral("Hant"), QStringLiteral("TW"),
+                                         QStringLiteral("HK"), QStringLiteral("MO")};
+        const bool is_traditional =
+            std::any_of(parts.begin(), parts.end(),
+                        [&](const QString& part) { return traditional.contains(part); });
+        return is_traditional ? QStringLiteral("zh_TW") : QStringLiteral("zh_CN");
+    }
+    return our_languages().contains(language) ? language : QString();
+}
+
+} // namespace
+
+QStringList our_languages() {
+    return {QStringLiteral("en"), QStringLiteral("de"),    QStringLiteral("fr"),
+            QStringLiteral("es"), QStringLiteral("it"),    QStringLiteral("ja"),
+            QStringLiteral("ko"), QStringLiteral("zh_CN"), QStringLiteral("zh_TW")};
+}
+
 QString language_for(const QStringList& preferred) {
-    const QStringList ours = {QStringLiteral("en"), QStringLiteral("de")};
     for (const QString& wish : preferred) {
-        QString language = wish.section(QLatin1Char('-'), 0, 0);
-        if (ours.contains(language)) {
-            return language;
+        if (const QString table = table_for(wish); !table.isEmpty()) {
+            return table;
         }
     }
-    return ours.front();
+    return QStringLiteral("en");
 }
 
 bool install_language(QTranslator& translator, const QString& language) {

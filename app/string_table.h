@@ -29,6 +29,9 @@ private:
     std::map<std::string, std::string, std::less<>> texts_;
 };
 
+// The languages that there are texts in, English first; Chinese by territory.
+QStringList our_languages();
+
 // The language of ours that suits the user's preferred ones, best first; English when none does.
 QString language_for(const QStringList& preferred);
 

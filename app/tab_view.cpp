@@ -1,6 +1,7 @@
 #include "app/tab_view.h"
 
 #include <QFrame>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QStackedWidget>
 #include <utility>
@@ -57,6 +58,10 @@ void tab_view::user_asks_for(int index) {
 
 void tab_view::set_label(int index, const QString& label) {
     bar_->setTabText(index, label);
+}
+
+void tab_view::set_icon(int index, const QString& file) {
+    bar_->setTabIcon(index, file.isEmpty() ? QIcon() : QIcon(file));
 }
 
 QString tab_view::label(int index) const {

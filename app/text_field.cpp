@@ -12,10 +12,32 @@ text_field::text_field(QWidget* parent) : QLabel(parent) {
 
 void text_field::set_value(const QString& value) {
     setText(value);
+    fit();
     show_tip();
     if (follower_ != nullptr) {
         follower_->set_value(value);
     }
+}
+
+void text_field::fit_text(Qt::Alignment edge) {
+    fitted_place_ = geometry();
+    fitted_edge_ = edge;
+    fit();
+}
+
+void text_field::fit() {
+    if (fitted_place_.isNull()) {
+        return;
+    }
+    ensurePolished();
+    const int wanted = text().isEmpty() ? 0 : qMin(sizeHint().width(), fitted_place_.width());
+    QRect area = fitted_place_;
+    if (fitted_edge_.testFlag(Qt::AlignRight)) {
+        area.setLeft(area.right() + 1 - wanted);
+    } else {
+        area.setWidth(wanted);
+    }
+    setGeometry(area);
 }
 
 void text_field::paintEvent(QPaintEvent* event) {

@@ -11,6 +11,9 @@ public:
 
     // Plain text; what follows it shows the same.
     void set_value(const QString& value);
+    // A tag: as wide as its text and nothing when empty, at the left or the right edge of the
+    // place that it has now.
+    void fit_text(Qt::Alignment edge);
     // Another field that repeats this one.
     void repeat_in(text_field* follower) { follower_ = follower; }
 
@@ -20,7 +23,10 @@ protected:
 
 private:
     bool too_long() const;
+    void fit();
     void show_tip();
 
     text_field* follower_ = nullptr;
+    QRect fitted_place_; // of a tag
+    Qt::Alignment fitted_edge_;
 };

@@ -69,7 +69,7 @@
     </message>
     <message id="span">
         <source></source>
-        <translation>Aneinanderreihung</translation>
+        <translation>Verkettung</translation>
     </message>
     <message id="broken">
         <source></source>
@@ -77,7 +77,7 @@
     </message>
     <message id="degrade">
         <source></source>
-        <translation> (herabgestuft)</translation>
+        <translation> (degradiert)</translation>
     </message>
     <message id="new">
         <source></source>
@@ -101,11 +101,11 @@
     </message>
     <message id="raid1_degrade_mode">
         <source></source>
-        <translation>Eine Festplatte des RAID-1-Verbunds fehlt, es gibt also nur noch eine Kopie der Daten. Der Verbund arbeitet mit der verbliebenen Festplatte weiter. Setzen Sie eine mindestens gleich große Festplatte ein und stellen Sie den Verbund wieder her.</translation>
+        <translation>Eine Festplatte des RAID-1-Verbunds fehlt, es gibt nur eine Kopie der Daten. Der Verbund läuft weiter. Setzen Sie eine mindestens gleich große Festplatte ein und stellen Sie ihn wieder her.</translation>
     </message>
     <message id="raid_info_conflict">
         <source></source>
-        <translation>Die RAID-Einträge auf den beiden Festplatten gehören nicht zusammen. Stellen Sie ein RAID 1 von der Festplatte wieder her, deren Daten Sie behalten möchten, bereinigen Sie eine Festplatte oder erstellen Sie einen neuen Verbund.</translation>
+        <translation>Die RAID-Einträge passen nicht zusammen. Stellen Sie ein RAID 1 von der Festplatte wieder her, deren Daten Sie behalten wollen, leeren Sie eine Festplatte oder erstellen Sie einen neuen Verbund.</translation>
     </message>
     <message id="attention">
         <source></source>
@@ -161,7 +161,7 @@
     </message>
     <message id="rebuild_finished">
         <source></source>
-        <translation>Die Wiederherstellung ist abgeschlossen. Beide Festplatten enthalten dieselben Daten.</translation>
+        <translation>Die Wiederherstellung ist abgeschlossen. Beide Festplatten enthalten jetzt dieselben Daten.</translation>
     </message>
     <message id="hot_swap">
         <source></source>
@@ -169,7 +169,7 @@
     </message>
     <message id="error_open_device">
         <source></source>
-        <translation>Das Gehäuse konnte nicht geöffnet werden.</translation>
+        <translation>Auf das Gehäuse kann nicht zugegriffen werden.</translation>
     </message>
     <message id="device">
         <source></source>
@@ -197,15 +197,15 @@
     </message>
     <message id="ui_clear">
         <source></source>
-        <translation>Bereinigen</translation>
+        <translation>Leeren</translation>
     </message>
     <message id="ui_clear_disk_1">
         <source></source>
-        <translation>Festplatte 1 bereinigen</translation>
+        <translation>Festplatte 1 leeren</translation>
     </message>
     <message id="ui_clear_disk_2">
         <source></source>
-        <translation>Festplatte 2 bereinigen</translation>
+        <translation>Festplatte 2 leeren</translation>
     </message>
     <message id="ui_restart_enclosure">
         <source></source>
@@ -213,7 +213,7 @@
     </message>
     <message id="ui_working">
         <source></source>
-        <translation>Beschäftigt</translation>
+        <translation>Vorgang läuft</translation>
     </message>
     <message id="ui_empty_bay">
         <source></source>
@@ -221,15 +221,15 @@
     </message>
     <message id="ui_raid_0_meaning">
         <source></source>
-        <translation>Schnell, Größen addiert; kein Ausfallschutz.</translation>
+        <translation>Schnell, Größen addiert, kein Ausfallschutz.</translation>
     </message>
     <message id="ui_raid_1_meaning">
         <source></source>
-        <translation>Zwei gleiche Kopien; eine Platte darf ausfallen.</translation>
+        <translation>Zwei gleiche Kopien. Eine darf ausfallen.</translation>
     </message>
     <message id="ui_span_meaning">
         <source></source>
-        <translation>Eine Platte nach der anderen, Größen addiert.</translation>
+        <translation>Eine Platte nach der anderen, Größe addiert.</translation>
     </message>
     <message id="ui_not_config_meaning">
         <source></source>
@@ -257,7 +257,7 @@
     </message>
     <message id="ui_plan_create">
         <source></source>
-        <translation>Legt einen neuen Verbund an: %1.</translation>
+        <translation>Erstellt einen neuen Verbund: %1.</translation>
     </message>
     <message id="ui_plan_delete">
         <source></source>
@@ -297,7 +297,7 @@
     </message>
     <message id="ui_plan_overwritten">
         <source></source>
-        <translation>wird überschrieben, alle Daten verloren</translation>
+        <translation>wird überschrieben, verliert alle Daten</translation>
     </message>
     <message id="ui_plan_overwrites">
         <source></source>
@@ -309,19 +309,19 @@
     </message>
     <message id="ui_plan_record_inside_mirror">
         <source></source>
-        <translation>Die Kopie reicht bis an den RAID-Datensatz.</translation>
+        <translation>Die Kopie reicht in den Bereich des RAID-Eintrags hinein.</translation>
     </message>
     <message id="ui_plan_larger_than_used">
         <source></source>
-        <translation>Nur ein Teil der Platte wird genutzt: Der RAID-Datensatz liegt vor dem Ende.</translation>
+        <translation>Nur ein Teil der Platte wird genutzt: Der RAID-Eintrag liegt vor dem Ende.</translation>
     </message>
     <message id="ui_plan_foreign_sectors">
         <source></source>
-        <translation>Ihre Sektoren haben nicht 512 Byte.</translation>
+        <translation>Die Sektoren sind nicht 512 Byte groß.</translation>
     </message>
     <message id="ui_copy_failed">
         <source></source>
-        <translation>Die Sicherheitskopie der RAID-Datensätze konnte nicht geschrieben werden: %1. Ohne sie fortfahren?</translation>
+        <translation>Die Sicherheitskopie der RAID-Einträge konnte nicht geschrieben werden: %1. Ohne sie fortfahren?</translation>
     </message>
     <message id="ui_too_small_for_rebuild_1">
         <source></source>
@@ -357,7 +357,7 @@
     </message>
     <message id="ui_verdict_degraded">
         <source></source>
-        <translation>Herabgestuft</translation>
+        <translation>Degradiert</translation>
     </message>
     <message id="ui_verdict_differ">
         <source></source>
@@ -377,7 +377,7 @@
     </message>
     <message id="ui_state_no_copy">
         <source></source>
-        <translation>Beide Festplatten antworten. Es gibt keine zweite Kopie.</translation>
+        <translation>Beide Festplatten antworten. Es gibt keine Zweitkopie.</translation>
     </message>
     <message id="ui_state_copying">
         <source></source>
@@ -385,19 +385,19 @@
     </message>
     <message id="ui_step_connect">
         <source></source>
-        <translation>Schließen Sie das Gehäuse per USB oder FireWire an.</translation>
+        <translation>Gehäuse über USB oder FireWire anschließen.</translation>
     </message>
     <message id="ui_step_switch_on">
         <source></source>
-        <translation>Schalten Sie es ein und warten Sie einige Sekunden.</translation>
+        <translation>Gehäuse einschalten, einige Sekunden warten.</translation>
     </message>
     <message id="ui_step_wait">
         <source></source>
-        <translation>Es erscheint hier von selbst, sonst: „%1“.</translation>
+        <translation>Es erscheint von selbst, sonst: „%1“.</translation>
     </message>
     <message id="ui_advice_none">
         <source></source>
-        <translation>Immer noch nichts? Prüfen Sie das Netzteil, dann ein anderes Kabel oder einen anderen Anschluss.</translation>
+        <translation>Immer noch nichts? Prüfen Sie die Stromversorgung und versuchen Sie es dann mit einem anderen Kabel oder Anschluss.</translation>
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
@@ -409,11 +409,11 @@
     </message>
     <message id="ui_advice_pair">
         <source></source>
-        <translation>Zwei einzelne Festplatten. Um sie zu verbinden, wählen Sie unten eine Art und drücken Sie „%1“; alles auf beiden Festplatten geht dabei verloren.</translation>
+        <translation>Zwei einzelne Festplatten. Um sie zu verbinden, wählen Sie unten eine Art und klicken Sie auf „%1“; dabei geht alles auf beiden Festplatten verloren.</translation>
     </message>
     <message id="ui_advice_mirror">
         <source></source>
-        <translation>Jede der beiden Festplatten darf ohne Verlust ausfallen. Es ist nichts zu tun.</translation>
+        <translation>Eine der beiden Festplatten darf ausfallen, ohne dass Daten verloren gehen. Sie müssen nichts tun.</translation>
     </message>
     <message id="ui_advice_stripe">
         <source></source>
@@ -425,11 +425,11 @@
     </message>
     <message id="ui_advice_missing">
         <source></source>
-        <translation>Festplatte %1 fehlt, es gibt nur noch eine Kopie auf Festplatte %2. Setzen Sie eine Festplatte mit mindestens %3 in Schacht %1 ein; danach ist eine Wiederherstellung möglich.</translation>
+        <translation>Festplatte %1 fehlt, die einzige Kopie liegt auf Festplatte %2. Setzen Sie eine Festplatte mit mindestens %3 in Schacht %1 ein; danach ist die Wiederherstellung möglich.</translation>
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1. Für eine zweite kopieren Sie sie unten mit „%3“ auf Festplatte %2.</translation>
+        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1. Um wieder zwei zu haben, kopieren Sie die Daten unten mit „%3“ auf Festplatte %2.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -437,23 +437,23 @@
     </message>
     <message id="ui_advice_differ">
         <source></source>
-        <translation>Beide Festplatten enthalten eine Kopie desselben RAID 1, aber mit verschiedenem Inhalt; der Eintrag auf Festplatte %1 ist der spätere. Wählen Sie, welche Kopie bleibt.</translation>
+        <translation>Beide Festplatten enthalten eine Kopie desselben RAID 1, doch die Kopien weichen voneinander ab; der Eintrag auf Festplatte %1 ist neuer. Wählen Sie, welche Sie behalten.</translation>
     </message>
     <message id="ui_advice_differ_undated">
         <source></source>
-        <translation>Beide Festplatten enthalten eine Kopie eines RAID 1, aber die Kopien gehören nicht zusammen. Wählen Sie, welche bleibt.</translation>
+        <translation>Beide Festplatten enthalten eine Kopie eines RAID 1, aber die Kopien passen nicht zusammen. Wählen Sie, welche Sie behalten.</translation>
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Eine Hälfte dieses Verbunds fehlt. Setzen Sie die andere Festplatte wieder ein, um die Daten zu erreichen. Bereinigen Sie Festplatte %1 nur, wenn die Daten nicht mehr gebraucht werden.</translation>
+        <translation>Der halbe Verbund fehlt. Um an die Daten zu kommen, setzen Sie die andere Festplatte wieder ein. Leeren Sie Festplatte %1 nur, wenn die Daten entbehrlich sind.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>Die Einträge der beiden Festplatten gehören nicht zusammen. Setzen Sie die Festplatten eines Verbunds wieder ein, um seine Daten zu erreichen. Bereinigen Sie nur, was nicht mehr gebraucht wird.</translation>
+        <translation>Die Einträge passen nicht zusammen. Um an Daten zu kommen, setzen Sie beide Platten eines Verbunds ein. Leeren Sie eine Platte nur, wenn ihre Daten entbehrlich sind.</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>Das Volume bleibt währenddessen benutzbar. Bis die Kopie vollständig ist, enthält nur Festplatte %1 alle Daten: nicht ausschalten oder abziehen.</translation>
+        <translation>Das Volume bleibt benutzbar. Bis die Kopie fertig ist, enthält nur Festplatte %1 alle Daten: Schalten Sie das Gehäuse nicht aus und ziehen Sie es nicht ab.</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>
@@ -461,15 +461,15 @@
     </message>
     <message id="ui_reason_scanning">
         <source></source>
-        <translation>Die Gehäuse werden gerade gelesen.</translation>
+        <translation>Die Gehäuse werden gerade eingelesen.</translation>
     </message>
     <message id="ui_reason_bay_empty">
         <source></source>
-        <translation>Braucht zwei Festplatten: Schacht %1 ist leer.</translation>
+        <translation>Zwei Festplatten sind nötig: Schacht %1 ist leer.</translation>
     </message>
     <message id="ui_reason_no_disks">
         <source></source>
-        <translation>Braucht zwei Festplatten: Beide Schächte sind leer.</translation>
+        <translation>Zwei Festplatten sind nötig: Beide Schächte sind leer.</translation>
     </message>
     <message id="ui_reason_rebuild_running">
         <source></source>
@@ -477,15 +477,15 @@
     </message>
     <message id="ui_reason_choose_kind">
         <source></source>
-        <translation>Wählen Sie zuerst RAID 0, RAID 1 oder Aneinanderreihung.</translation>
+        <translation>Wählen Sie zuerst RAID 0, RAID 1 oder Verkettung.</translation>
     </message>
     <message id="ui_reason_no_array">
         <source></source>
-        <translation>Es gibt keinen Verbund, der zu löschen wäre.</translation>
+        <translation>Es gibt keinen Verbund zum Löschen.</translation>
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>Der Verbund ist nicht vollständig. Bereinigen Sie die Festplatten einzeln.</translation>
+        <translation>Der Verbund ist nicht vollständig. Leeren Sie die Festplatten einzeln.</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -497,11 +497,11 @@
     </message>
     <message id="ui_reason_other_array">
         <source></source>
-        <translation>Die Festplatten bilden einen Verbund ohne Kopien.</translation>
+        <translation>Die Festplatten bilden einen Verbund ohne Zweitkopie.</translation>
     </message>
     <message id="ui_reason_no_target">
         <source></source>
-        <translation>Schacht %1 ist leer: Es gibt keine Festplatte als Ziel.</translation>
+        <translation>Schacht %1 ist leer: Es gibt keine Zielfestplatte.</translation>
     </message>
     <message id="ui_record">
         <source></source>
@@ -513,11 +513,11 @@
     </message>
     <message id="ui_overwritten">
         <source></source>
-        <translation>entfällt</translation>
+        <translation>überschrieben</translation>
     </message>
     <message id="ui_in_use">
         <source></source>
-        <translation>in Betrieb</translation>
+        <translation>aktiv</translation>
     </message>
     <message id="ui_source">
         <source></source>
@@ -549,7 +549,7 @@
     </message>
     <message id="ui_changing_advice">
         <source></source>
-        <translation>Die Einträge der Festplatten werden geschrieben. Nicht ausschalten oder abziehen.</translation>
+        <translation>Die RAID-Einträge werden geschrieben. Schalten Sie das Gehäuse nicht aus und ziehen Sie es nicht ab.</translation>
     </message>
     <message id="ui_guide">
         <source></source>
@@ -565,7 +565,7 @@
     </message>
     <message id="ui_guide_keep_text">
         <source></source>
-        <translation>Die andere Festplatte eines RAID 1 enthält alle Ihre Daten, und der Verbund läuft mit ihr weiter. Kopieren Sie jetzt an einen anderen Ort, was Sie nicht verlieren dürfen. Nichts erstellen, löschen oder bereinigen.</translation>
+        <translation>Die andere Festplatte eines RAID 1 enthält alle Ihre Daten, und der Verbund läuft mit ihr weiter. Kopieren Sie jetzt an einen anderen Ort, was Sie nicht verlieren dürfen. Erstellen, löschen und leeren Sie nichts.</translation>
     </message>
     <message id="ui_guide_find">
         <source></source>
@@ -589,15 +589,15 @@
     </message>
     <message id="ui_guide_rebuild_text">
         <source></source>
-        <translation>Drücken Sie auf dem Reiter „%1“ die Taste, deren Pfeil von der verbliebenen zur neuen Festplatte zeigt. Lassen Sie das Gehäuse eingeschaltet, bis das Programm das Ende der Wiederherstellung meldet.</translation>
+        <translation>Klicken Sie im Reiter „%1“ auf die Schaltfläche, deren Pfeil von der verbliebenen zur neuen Festplatte zeigt. Lassen Sie das Gehäuse an, bis das Programm das Ende der Wiederherstellung meldet.</translation>
     </message>
     <message id="ui_guide_no_copy">
         <source></source>
-        <translation>RAID 0 und Aneinanderreihung halten keine zweite Kopie. Versuchen Sie es mit einem anderen Kabel oder Schacht; ist die Festplatte ausgefallen, hilft nur eine Datensicherung.</translation>
+        <translation>Bei RAID 0 und Verkettung gibt es keine Zweitkopie. Versuchen Sie es mit einem anderen Kabel oder im anderen Schacht; ist die Festplatte defekt, hilft nur eine Datensicherung.</translation>
     </message>
     <message id="ui_open_window">
         <source></source>
-        <translation>Fenster zeigen</translation>
+        <translation>Fenster anzeigen</translation>
     </message>
 </context>
 </TS>

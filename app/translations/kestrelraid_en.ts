@@ -101,11 +101,11 @@
     </message>
     <message id="raid1_degrade_mode">
         <source></source>
-        <translation>A disk of the RAID 1 array is missing, so there is only one copy of the data. The array works on with the disk that is left. Add a disk of at least the same size and rebuild.</translation>
+        <translation>One disk of the RAID 1 array is missing, so there is only one copy of the data. The array keeps working with the remaining disk. Add a disk of at least the same size and rebuild.</translation>
     </message>
     <message id="raid_info_conflict">
         <source></source>
-        <translation>The RAID records on the two disks do not belong together. Rebuild a RAID 1 from the disk whose data you want to keep, clear a disk, or create a new array.</translation>
+        <translation>The RAID records on the two disks do not match. Rebuild a RAID 1 from the disk whose data you want to keep, clear one disk, or create a new array.</translation>
     </message>
     <message id="attention">
         <source></source>
@@ -133,7 +133,7 @@
     </message>
     <message id="all_data_lost">
         <source></source>
-        <translation>All data on the disks will be lost and cannot be brought back. Continue?</translation>
+        <translation>All data on the disks will be lost and cannot be recovered. Continue?</translation>
     </message>
     <message id="raid_create_error">
         <source></source>
@@ -145,15 +145,15 @@
     </message>
     <message id="raid_info_delete_error">
         <source></source>
-        <translation>The RAID record of the disk could not be cleared. Check the disk and try again.</translation>
+        <translation>The RAID record on the disk could not be cleared. Check the disk and try again.</translation>
     </message>
     <message id="disk1_to_disk2">
         <source></source>
-        <translation>Copy Disk 1 onto Disk 2? Everything on Disk 2 is overwritten and cannot be brought back.</translation>
+        <translation>Copy Disk 1 onto Disk 2? Everything on Disk 2 will be overwritten and cannot be recovered.</translation>
     </message>
     <message id="disk2_to_disk1">
         <source></source>
-        <translation>Copy Disk 2 onto Disk 1? Everything on Disk 1 is overwritten and cannot be brought back.</translation>
+        <translation>Copy Disk 2 onto Disk 1? Everything on Disk 1 will be overwritten and cannot be recovered.</translation>
     </message>
     <message id="rebuild_error">
         <source></source>
@@ -161,15 +161,15 @@
     </message>
     <message id="rebuild_finished">
         <source></source>
-        <translation>The rebuild is complete. Both disks hold the same data.</translation>
+        <translation>The rebuild is complete. Both disks now hold the same data.</translation>
     </message>
     <message id="hot_swap">
         <source></source>
-        <translation>A disk was added or removed. The enclosure is now read again.</translation>
+        <translation>A disk was added or removed. The enclosure is being read again.</translation>
     </message>
     <message id="error_open_device">
         <source></source>
-        <translation>The enclosure could not be opened.</translation>
+        <translation>The enclosure could not be accessed.</translation>
     </message>
     <message id="device">
         <source></source>
@@ -221,15 +221,15 @@
     </message>
     <message id="ui_raid_0_meaning">
         <source></source>
-        <translation>Fast, sizes added. One failed disk loses all.</translation>
+        <translation>Fast; sizes add up. One failure loses all.</translation>
     </message>
     <message id="ui_raid_1_meaning">
         <source></source>
-        <translation>Two equal copies. Either disk may fail.</translation>
+        <translation>Two identical copies. Either disk may fail.</translation>
     </message>
     <message id="ui_span_meaning">
         <source></source>
-        <translation>One disk after the other, sizes added.</translation>
+        <translation>One disk after the other; sizes add up.</translation>
     </message>
     <message id="ui_not_config_meaning">
         <source></source>
@@ -237,7 +237,7 @@
     </message>
     <message id="ui_no_enclosure">
         <source></source>
-        <translation>No enclosure attached</translation>
+        <translation>No enclosure connected</translation>
     </message>
     <message id="ui_no_enclosure_advice">
         <source></source>
@@ -245,15 +245,15 @@
     </message>
     <message id="ui_scanning">
         <source></source>
-        <translation>Looking for enclosures …</translation>
+        <translation>Looking for enclosures…</translation>
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>Both disks and the array are read anew. This takes a few seconds.</translation>
+        <translation>Both disks and the array are being read again. This takes a few seconds.</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
-        <translation>The arrow shows which way the data flows. The disk at its tip is overwritten. You are asked once more before anything is written.</translation>
+        <translation>The arrow shows which way the data flows. The disk at its tip will be overwritten. You will be asked again before anything is written.</translation>
     </message>
     <message id="ui_plan_create">
         <source></source>
@@ -265,11 +265,11 @@
     </message>
     <message id="ui_plan_wipe_disk_1">
         <source></source>
-        <translation>Wipes Disk 1.</translation>
+        <translation>Clears Disk 1.</translation>
     </message>
     <message id="ui_plan_wipe_disk_2">
         <source></source>
-        <translation>Wipes Disk 2.</translation>
+        <translation>Clears Disk 2.</translation>
     </message>
     <message id="ui_plan_copy_disk_1">
         <source></source>
@@ -313,15 +313,15 @@
     </message>
     <message id="ui_plan_larger_than_used">
         <source></source>
-        <translation>Only part of this disk is used: its RAID record lies before the end.</translation>
+        <translation>Only part of this disk is used: its RAID record is not at the end.</translation>
     </message>
     <message id="ui_plan_foreign_sectors">
         <source></source>
-        <translation>Its sectors do not have 512 bytes.</translation>
+        <translation>Its sectors are not 512 bytes long.</translation>
     </message>
     <message id="ui_copy_failed">
         <source></source>
-        <translation>The safety copy of the RAID records could not be written: %1. Go on without it?</translation>
+        <translation>The safety copy of the RAID records could not be written: %1. Continue without it?</translation>
     </message>
     <message id="ui_too_small_for_rebuild_1">
         <source></source>
@@ -377,7 +377,7 @@
     </message>
     <message id="ui_state_no_copy">
         <source></source>
-        <translation>Both disks answer. There is no second copy.</translation>
+        <translation>Both disks respond. There is no second copy.</translation>
     </message>
     <message id="ui_state_copying">
         <source></source>
@@ -393,7 +393,7 @@
     </message>
     <message id="ui_step_wait">
         <source></source>
-        <translation>It appears here by itself, or press %1.</translation>
+        <translation>It appears here by itself, or press “%1”.</translation>
     </message>
     <message id="ui_advice_none">
         <source></source>
@@ -401,19 +401,19 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>Both bays are empty. Put a disk in; it appears here by itself.</translation>
+        <translation>Both bays are empty. Insert a disk; it appears here by itself.</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>Bay %1 is empty. To create an array, put a second disk into it.</translation>
+        <translation>Bay %1 is empty. To create an array, insert a second disk there.</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
-        <translation>Two separate disks. To join them, choose a kind below and press %1; everything on both disks is then lost.</translation>
+        <translation>Two separate disks. To join them, choose a kind below and press “%1”; everything on both disks is then lost.</translation>
     </message>
     <message id="ui_advice_mirror">
         <source></source>
-        <translation>Either disk may fail without loss. Nothing to do.</translation>
+        <translation>Either disk can fail without data loss. There is nothing to do.</translation>
     </message>
     <message id="ui_advice_stripe">
         <source></source>
@@ -425,39 +425,39 @@
     </message>
     <message id="ui_advice_missing">
         <source></source>
-        <translation>Disk %1 is missing, so there is one copy only, on Disk %2. Put a disk of at least %3 into bay %1; you can then rebuild.</translation>
+        <translation>Disk %1 is missing, so there is only one copy, on Disk %2. Insert a disk of at least %3 into bay %1; you can then rebuild.</translation>
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Only Disk %1 holds a copy of this RAID 1. To have two again, copy it onto Disk %2 with the button “%3” below.</translation>
+        <translation>Only Disk %1 holds a copy of this RAID 1. To have two again, copy the data onto Disk %2 with the button “%3” below.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
-        <translation>Only Disk %1 holds a copy of this RAID 1, and Disk %2 is too small for a second one. Put a disk of at least %3 into bay %2.</translation>
+        <translation>Only Disk %1 holds a copy of this RAID 1, and Disk %2 is too small for a second one. Insert a disk of at least %3 into bay %2.</translation>
     </message>
     <message id="ui_advice_differ">
         <source></source>
-        <translation>Both disks hold a copy of the same RAID 1, but the copies differ; the record on Disk %1 is the later one. Choose which copy to keep.</translation>
+        <translation>Both disks hold a copy of the same RAID 1, but the copies differ; the record on Disk %1 is the more recent. Choose which copy to keep.</translation>
     </message>
     <message id="ui_advice_differ_undated">
         <source></source>
-        <translation>Both disks hold a copy of a RAID 1, but the copies do not belong together. Choose which one to keep.</translation>
+        <translation>Both disks hold a copy of a RAID 1, but the copies do not match. Choose which one to keep.</translation>
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Half of this array is missing. Put its other disk back to reach the data. Clear Disk %1 only if the data is no longer needed.</translation>
+        <translation>Half of this array is missing. To reach its data, put the other disk back. Clear Disk %1 only if you no longer need the data.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>The records on the two disks do not belong together. Put the disks of one array back to reach its data. Clear a disk only if its data is no longer needed.</translation>
+        <translation>The records on the two disks do not match. To reach an array’s data, put both of its disks back. Clear a disk only if you no longer need its data.</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>The volume can be used meanwhile. Until the copy is complete, only Disk %1 holds all data: do not switch off or unplug.</translation>
+        <translation>You can keep using the volume. Until the copy is complete, only Disk %1 holds all the data: do not switch off or unplug the enclosure.</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>
-        <translation>No enclosure is attached.</translation>
+        <translation>No enclosure is connected.</translation>
     </message>
     <message id="ui_reason_scanning">
         <source></source>
@@ -465,11 +465,11 @@
     </message>
     <message id="ui_reason_bay_empty">
         <source></source>
-        <translation>Needs two disks: bay %1 is empty.</translation>
+        <translation>Two disks are needed: bay %1 is empty.</translation>
     </message>
     <message id="ui_reason_no_disks">
         <source></source>
-        <translation>Needs two disks: both bays are empty.</translation>
+        <translation>Two disks are needed: both bays are empty.</translation>
     </message>
     <message id="ui_reason_rebuild_running">
         <source></source>
@@ -497,7 +497,7 @@
     </message>
     <message id="ui_reason_other_array">
         <source></source>
-        <translation>The disks form an array that has no copies.</translation>
+        <translation>The disks form an array that keeps no second copy.</translation>
     </message>
     <message id="ui_reason_no_target">
         <source></source>
@@ -545,11 +545,11 @@
     </message>
     <message id="ui_changing">
         <source></source>
-        <translation>Changing the array …</translation>
+        <translation>Changing the array…</translation>
     </message>
     <message id="ui_changing_advice">
         <source></source>
-        <translation>The records of the disks are being written. Do not switch off or unplug.</translation>
+        <translation>The records on the disks are being written. Do not switch off or unplug the enclosure.</translation>
     </message>
     <message id="ui_guide">
         <source></source>
@@ -565,7 +565,7 @@
     </message>
     <message id="ui_guide_keep_text">
         <source></source>
-        <translation>The other disk of a RAID 1 holds all your data, and the array goes on with it. Copy what you cannot lose to another place now. Do not create, delete or clear anything.</translation>
+        <translation>The other disk of a RAID 1 holds all your data, and the array keeps working with it. Copy anything you cannot afford to lose to another place now. Do not create, delete or clear anything.</translation>
     </message>
     <message id="ui_guide_find">
         <source></source>
@@ -573,11 +573,11 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>The page “%1” shows which bay is empty. The other disk’s serial number stands on “%2”: compare it with the label before you take a disk out.</translation>
+        <translation>The “%1” page shows which bay is empty. The other disk’s serial number is on “%2”: compare it with the label before you take a disk out.</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
-        <translation>Put in a new disk</translation>
+        <translation>Insert a new disk</translation>
     </message>
     <message id="ui_guide_replace_text">
         <source></source>
@@ -589,11 +589,11 @@
     </message>
     <message id="ui_guide_rebuild_text">
         <source></source>
-        <translation>On the tab “%1”, press the button whose arrow points from the disk that is left to the new one. Keep the enclosure switched on until the program says that the rebuild is complete.</translation>
+        <translation>On the tab “%1”, press the button whose arrow points from the remaining disk to the new one. Keep the enclosure switched on until the program says that the rebuild is complete.</translation>
     </message>
     <message id="ui_guide_no_copy">
         <source></source>
-        <translation>RAID 0 and span keep no second copy. Try the disk again with another cable or bay; if it has failed, only a backup helps.</translation>
+        <translation>RAID 0 and span keep no second copy. Try the disk with another cable or in the other bay; if it has failed, only a backup will help.</translation>
     </message>
     <message id="ui_open_window">
         <source></source>

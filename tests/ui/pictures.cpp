@@ -1,65 +1,48 @@
 // Writes pictures of the window in its states: ui_pictures FOLDER [LANGUAGE].
 #include <QApplication>
+#include <QDir>
+#include <QPainter>
 #include <QTimer>
-#include <QTranslator>
 
 #include "app/krview.h"
-#include "app/main_window.h"
 #include "app/string_table.h"
-#include "app/tab_view.h"
-#include "tests/ui/test_main.h"
-#include "tests/ui/window_test.h"
+#include "tests/ui/spoken_window.h"
 
 namespace {
 
 constexpr std::uint64_t two_terabytes = 3'907'029'168;
 
-class pictures : public window_test {
+// The arguments that are left for this program.
+QString folder() {
+    return QCoreApplication::arguments().value(1, QStringLiteral("."));
+}
+
+QString language() {
+    return QCoreApplication::arguments().value(2, QStringLiteral("en"));
+}
+
+// At more than a pixel to the point the name says so.
+void save_picture(const QPixmap& picture, const QString& name) {
+    ASSERT_TRUE(QDir().mkpath(folder()));
+    const double ratio = qApp->devicePixelRatio();
+    const QString suffix = ratio > 1.0 ? QStringLiteral("@%1x").arg(ratio) : QString();
+    EXPECT_TRUE(picture.save(QStringLiteral("%1/%2%3.png").arg(folder(), name, suffix)))
+        << folder().toStdString();
+}
+
+class pictures : public spoken_window {
 protected:
-    void SetUp() override {
-        const QStringList arguments = QCoreApplication::arguments();
-        ASSERT_GT(arguments.size(), 1) << "ui_pictures FOLDER [LANGUAGE]";
-        folder = arguments[1];
-        language = arguments.value(2, QStringLiteral("en"));
-        install_language(translator, language);
-        string_table table;
-        table.load(translated);
-        model_test::SetUp(); // NOLINT(bugprone-parent-virtual-call): texts come before the window
-        for (const auto keys : {designed_keys(), window_keys()}) {
-            for (const std::string_view key : keys) {
-                texts.set(std::string(key), table.text(key));
-            }
-        }
-        workers.run_for_real(real_threads);
-        window = new_window(&panels);
-        window->awakeFromNib();
-        window->applicationDidFinishLaunching();
-    }
+    void SetUp() override { open_in(language()); }
 
-    void take(const char* name) {
-        window->update_raid_information();
-        save(name);
-    }
+    void disks(krchip& chip, int mode0, int mode1) { prepare_disks(chip, mode0, mode1); }
 
-    void save(const char* name) {
+    void save(const QString& name) {
         QCoreApplication::processEvents();
-        EXPECT_TRUE(window->mainview->grab().save(folder + QLatin1Char('/') + language +
-                                                  QLatin1Char('-') + QLatin1String(name) +
-                                                  QStringLiteral(".png")));
-    }
-
-    void disks(krchip& chip, int mode0, int mode1) {
-        put_disk(chip.disks[0], two_terabytes, mode0, two_terabytes - 16);
-        put_disk(chip.disks[1], two_terabytes, mode1, two_terabytes - 16);
-        chip.disks[0].model = chip.disks[1].model = "WDC WD20EFRX-68EUZN0";
-        chip.disks[0].serial = "WD-WCC4M0XJ2K7L";
-        chip.disks[1].serial = "WD-WCC4M5PR81TC";
-        chip.raid_mode = mode0;
-        chip.raid_capacity = two_terabytes - 16;
+        save_picture(window->mainview->grab(), language() + QLatin1Char('-') + name);
     }
 
     // Asks for a change of the current chip and saves the panel over the window.
-    void save_panel(const char* name, array_change what, int mode, const char* question) {
+    void save_panel(const QString& name, array_change what, int mode, const char* question) {
         const std::optional<chip_snapshot> current = j.current_chip();
         const change_plan plan =
             plan_change(what, mode, &current->chip, "Kestrel Duo (S/N: ABC123)");
@@ -70,7 +53,7 @@ protected:
                    describe(plan, true, texts)});
     }
 
-    void ask(const char* name, const panel_request& request) {
+    void ask(const QString& name, const panel_request& request) {
         window->update_controller_list();
         window->update_raid_information();
         input_guard guard;
@@ -83,84 +66,54 @@ protected:
         visit.start();
         run_panel(window->mainview, guard, request);
     }
-
-    QString folder;
-    QString language;
-    QTranslator translator;
 };
 
-TEST_F(pictures, Empty) {
-    take("empty");
+TEST_F(pictures, EveryState) {
+    for (const std::string& state : state_names()) {
+        show_state(state);
+        save(QString::fromStdString(state));
+    }
 }
 
-TEST_F(pictures, Unconfigured) {
-    show_chip([this](krchip& chip) { disks(chip, 0, 0); });
-    take("unconfigured");
+// The two states with the most text, in every language on one sheet each.
+class sheet : public spoken_window {
+protected:
+    void SetUp() override {}
+
+    void save_sheet(const std::string& state) {
+        constexpr int columns = 3;
+        constexpr QSize one(800, 630);
+        const QStringList languages = our_languages();
+        const int rows = (static_cast<int>(languages.size()) + columns - 1) / columns;
+        QPixmap all(one.width() * columns, one.height() * rows);
+        all.fill(Qt::black);
+        QPainter painter(&all);
+        for (int place = 0; place < languages.size(); ++place) {
+            open_in(languages[place]);
+            show_state(state);
+            QCoreApplication::processEvents();
+            const QPixmap shown = window->mainview->grab();
+            painter.drawPixmap(
+                QRect(QPoint(place % columns * one.width(), place / columns * one.height()), one),
+                shown);
+            close();
+        }
+        painter.end();
+        save_picture(all, QStringLiteral("languages-") + QString::fromStdString(state));
+    }
+};
+
+TEST_F(sheet, OfTheRebuild) {
+    save_sheet("rebuild");
 }
 
-TEST_F(pictures, Mirror) {
-    show_chip([this](krchip& chip) {
-        disks(chip, 2, 2);
-        chip.raid_valid = 1;
-    });
-    window->update_controller_list();
-    take("raid1");
-    tree_data.addchipFirewire(false);
-    tree_data.addraid(0, "Kestrel Duo (SN: ABC123)");
-    tree_data.adddisk(0, "M0: WDC WD20EFRX-68EUZN0", true);
-    tree_data.adddisk(0, "M1: WDC WD20EFRX-68EUZN0", true);
-    tree_data.addchipFirewire(true);
-    tree_data.adddisk(1, "P0: ST3000DM001-1CH166", false);
-    window->refreshtree();
-    window->expandtree();
-    window->switchguishowdisk();
-    save("info");
-}
-
-TEST_F(pictures, Degraded) {
-    show_chip([this](krchip& chip) {
-        disks(chip, 2, 0);
-        chip.disks[0].raid1_orphan = 1;
-        chip.disks[1].present = 0;
-    });
-    take("degraded");
-}
-
-TEST_F(pictures, Diverged) {
-    show_chip([this](krchip& chip) {
-        disks(chip, 2, 2);
-        chip.rebuild_possible = 1;
-        chip.disks[0].rebuild_role = 1;
-        chip.disks[1].rebuild_role = 2;
-    });
-    take("diverged");
-}
-
-TEST_F(pictures, Broken) {
-    show_chip([this](krchip& chip) {
-        disks(chip, 1, 0);
-        chip.disks[0].member_mismatch = 1;
-    });
-    take("broken");
-}
-
-TEST_F(pictures, Rebuilding) {
-    show_chip([this](krchip& chip) {
-        disks(chip, 2, 2);
-        chip.raid_valid = 1;
-        chip.rebuild_possible = 1;
-        chip.rebuild_pending = 1;
-        chip.disks[0].rebuild_mark = 1;
-        chip.polling = true;
-    });
-    window->update_raid_information();
-    window->updatepoll(1000, 374, false);
-    save("rebuild");
+TEST_F(sheet, OfDivergedCopies) {
+    save_sheet("diverged-hover");
 }
 
 TEST_F(pictures, ConfirmCreating) {
     show_chip([this](krchip& chip) { disks(chip, 0, 0); });
-    save_panel("panel-create", array_change::create, mode_raid1, "all_data_lost");
+    save_panel(QStringLiteral("panel-create"), array_change::create, mode_raid1, "all_data_lost");
 }
 
 TEST_F(pictures, ConfirmDeletingAStripe) {
@@ -168,7 +121,8 @@ TEST_F(pictures, ConfirmDeletingAStripe) {
         disks(chip, 1, 1);
         chip.raid_valid = 1;
     });
-    save_panel("panel-delete-stripe", array_change::clear_array, 0, "all_data_lost");
+    save_panel(QStringLiteral("panel-delete-stripe"), array_change::clear_array, 0,
+               "all_data_lost");
 }
 
 TEST_F(pictures, ConfirmDeletingAMirror) {
@@ -176,12 +130,13 @@ TEST_F(pictures, ConfirmDeletingAMirror) {
         disks(chip, 2, 2);
         chip.raid_valid = 1;
     });
-    save_panel("panel-delete-mirror", array_change::clear_array, 0, "all_data_lost");
+    save_panel(QStringLiteral("panel-delete-mirror"), array_change::clear_array, 0,
+               "all_data_lost");
 }
 
 TEST_F(pictures, ConfirmWiping) {
     show_chip([this](krchip& chip) { disks(chip, 1, 0); });
-    save_panel("panel-wipe", array_change::clear_disk1, 0, "all_data_lost");
+    save_panel(QStringLiteral("panel-wipe"), array_change::clear_disk1, 0, "all_data_lost");
 }
 
 TEST_F(pictures, ConfirmACopyWithWarnings) {
@@ -193,13 +148,14 @@ TEST_F(pictures, ConfirmACopyWithWarnings) {
         chip.disks[1].lba48_sectors = two_terabytes;
         chip.disks[1].logical_sector_bytes = 4096;
     });
-    save_panel("panel-copy-warnings", array_change::rebuild0to1, 0, "disk1_to_disk2");
+    save_panel(QStringLiteral("panel-copy-warnings"), array_change::rebuild0to1, 0,
+               "disk1_to_disk2");
 }
 
 TEST_F(pictures, ConfirmACopy) {
     show_chip([this](krchip& chip) { disks(chip, 2, 2); });
-    save_panel("panel-copy", array_change::rebuild0to1, 0, "disk1_to_disk2");
-    save_panel("panel-copy-back", array_change::rebuild1to0, 0, "disk2_to_disk1");
+    save_panel(QStringLiteral("panel-copy"), array_change::rebuild0to1, 0, "disk1_to_disk2");
+    save_panel(QStringLiteral("panel-copy-back"), array_change::rebuild1to0, 0, "disk2_to_disk1");
 }
 
 TEST_F(pictures, ConfirmACopyWithoutItsTarget) {
@@ -207,7 +163,7 @@ TEST_F(pictures, ConfirmACopyWithoutItsTarget) {
         disks(chip, 0, 2);
         chip.disks[0] = krdisk();
     });
-    save_panel("panel-copy-absent", array_change::rebuild1to0, 0, "disk2_to_disk1");
+    save_panel(QStringLiteral("panel-copy-absent"), array_change::rebuild1to0, 0, "disk2_to_disk1");
 }
 
 TEST_F(pictures, CopyFailure) {
@@ -215,20 +171,20 @@ TEST_F(pictures, CopyFailure) {
     message.replace(message.find("%1"), 2,
                     "/home/somebody/.local/state/kestrelraid/safety-copies/"
                     "2026-11-21T08-55-01-WD-WCC4M0XJ2K7L.json: No space left on device");
-    ask("panel-copy-failed", {panel_kind::warning,
-                              translated("warning"),
-                              message,
-                              {translated("ok"), translated("cancel")},
-                              {}});
+    ask(QStringLiteral("panel-copy-failed"), {panel_kind::warning,
+                                              translated("warning"),
+                                              message,
+                                              {translated("ok"), translated("cancel")},
+                                              {}});
 }
 
 TEST_F(pictures, Failure) {
     show_chip([this](krchip& chip) { disks(chip, 2, 2); });
-    ask("panel-error", {panel_kind::error,
-                        translated("error"),
-                        translated("rebuild_error"),
-                        {translated("ok")},
-                        {}});
+    ask(QStringLiteral("panel-error"), {panel_kind::error,
+                                        translated("error"),
+                                        translated("rebuild_error"),
+                                        {translated("ok")},
+                                        {}});
 }
 
 } // namespace

@@ -52,8 +52,8 @@ TEST_F(plan_words, TellWhatWillBeDone) {
     EXPECT_EQ(heading(array_change::create, mode_raid1), "Creates a new array: RAID 1.");
     EXPECT_EQ(heading(array_change::create, mode_span), "Creates a new array: Span.");
     EXPECT_EQ(heading(array_change::clear_array), "Deletes the array.");
-    EXPECT_EQ(heading(array_change::clear_disk0), "Wipes Disk 1.");
-    EXPECT_EQ(heading(array_change::clear_disk1), "Wipes Disk 2.");
+    EXPECT_EQ(heading(array_change::clear_disk0), "Clears Disk 1.");
+    EXPECT_EQ(heading(array_change::clear_disk1), "Clears Disk 2.");
     EXPECT_EQ(heading(array_change::rebuild0to1), "Copies Disk 1 onto Disk 2.");
     EXPECT_EQ(heading(array_change::rebuild1to0), "Copies Disk 2 onto Disk 1.");
 }
@@ -112,8 +112,8 @@ TEST_F(plan_words, WarnOfWhatTheUserHasToKnow) {
     EXPECT_THAT(card(disk_fate::overwritten).warnings,
                 ElementsAre("Too small by 344 sectors.",
                             "The copy reaches the place of its RAID record.",
-                            "Only part of this disk is used: its RAID record lies before the end.",
-                            "Its sectors do not have 512 bytes."));
+                            "Only part of this disk is used: its RAID record is not at the end.",
+                            "Its sectors are not 512 bytes long."));
     EXPECT_THAT(view().cards[1].warnings, IsEmpty());
 }
 
@@ -151,7 +151,7 @@ TEST_F(plan_words, ReadAsOneLinePerDisk) {
                                 "Kestrel Duo (S/N: ABC123)\n"
                                 "Disk 1: FIRST, S/N A1, 2.00 TB: is read, keeps its data\n"
                                 "Disk 2: SECOND, S/N B2, 2.00 TB: is overwritten, all data lost. "
-                                "Too small by 344 sectors. Its sectors do not have 512 bytes.\n");
+                                "Too small by 344 sectors. Its sectors are not 512 bytes long.\n");
 }
 
 TEST_F(plan_words, ReadAnEmptyBayWithoutASizeAndANumber) {
@@ -159,7 +159,7 @@ TEST_F(plan_words, ReadAnEmptyBayWithoutASizeAndANumber) {
     plan.disks[0].fate = disk_fate::all_lost;
     plan.disks[1] = {};
     EXPECT_EQ(as_line(view().cards[1]), "Disk 2: empty bay: nothing is written");
-    EXPECT_EQ(as_lines(view()), "Wipes Disk 1.\n"
+    EXPECT_EQ(as_lines(view()), "Clears Disk 1.\n"
                                 "Kestrel Duo (S/N: ABC123)\n"
                                 "Disk 1: FIRST, S/N A1, 2.00 TB: loses all data\n"
                                 "Disk 2: empty bay: nothing is written\n");

@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
     testing::InitGoogleMock(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    apply_look(application);
+    apply_look(application, QStringLiteral("en"));
 #if defined(__SANITIZE_THREAD__)
     unpainted screen;
     application.installEventFilter(&screen);

@@ -23,6 +23,10 @@ std::int32_t scripted_version::number(version_part part) {
 
 void window_test::SetUp() {
     model_test::SetUp();
+    open_window();
+}
+
+void window_test::open_window() {
     workers.run_for_real(real_threads);
     window = new_window(&panels);
     window->awakeFromNib();
@@ -39,8 +43,8 @@ void window_test::TearDown() {
 }
 
 std::unique_ptr<controller> window_test::new_window(panel_answers* answers) {
-    return std::make_unique<controller>(
-        window_parts{test_bridge(), workers, version, copies, tree_data, answers});
+    return std::make_unique<controller>(window_parts{test_bridge(), workers, version, copies,
+                                                     tree_data, answers, [this] { return time; }});
 }
 
 lines window_test::take_outlets() {

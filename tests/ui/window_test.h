@@ -32,6 +32,8 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
+    // Makes the window and starts it up.
+    void open_window();
     // A window of its own, with the users' panels when no others are given. It is not started up.
     std::unique_ptr<controller> new_window(panel_answers* answers);
 
@@ -56,6 +58,7 @@ protected:
     treeview tree_data{world().texts};
     std::unique_ptr<controller> window;
     lines outlet_log;
+    copy_pace::time_point time{}; // that the window reads
 };
 
 // A disk that is there.

@@ -1,0 +1,39 @@
+#include "app/pace_text.h"
+
+#include "app/display_text.h"
+#include "util/functions.h"
+
+namespace {
+
+std::string number(std::chrono::seconds::rep value) {
+    return inttostring(static_cast<std::uint64_t>(value));
+}
+
+} // namespace
+
+std::string speed_text(const pace_view& pace, const text_lookup& texts) {
+    constexpr std::uint64_t megabyte = 1'000'000;
+    if (pace.stalled) {
+        return texts.text("ui_stalled");
+    }
+    if (!pace.bytes_per_second) {
+        return {};
+    }
+    return inttostring(*pace.bytes_per_second / megabyte) + " MB/s";
+}
+
+std::string time_left_text(const pace_view& pace, const text_lookup& texts) {
+    if (!pace.left) {
+        return {};
+    }
+    const auto hours = std::chrono::duration_cast<std::chrono::hours>(*pace.left);
+    const auto minutes = std::chrono::duration_cast<std::chrono::minutes>(*pace.left - hours);
+    if (hours.count() > 0) {
+        return filled(texts.text("ui_left_hours"),
+                      {number(hours.count()), number(minutes.count())});
+    }
+    if (minutes.count() > 0) {
+        return filled(texts.text("ui_left_minutes"), {number(minutes.count())});
+    }
+    return texts.text("ui_left_soon");
+}
