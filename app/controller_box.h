@@ -18,6 +18,8 @@ public:
     void remove_all();
     // Each entry remembers whom it stands for.
     void add_entry(const QString& text, const controller_t& identity);
+    // Takes the focus and shows the list, as a key does it.
+    void open();
     // What stands in the box; no entry is touched.
     void set_text(const QString& text);
     // Selects without telling the delegate.
@@ -30,6 +32,7 @@ public:
     const controller_t& identity(int entry) const;
 
 protected:
+    bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 

@@ -7,6 +7,7 @@
 #include <QTreeView>
 #include <array>
 
+#include "app/action_tip.h"
 #include "app/controller.h"
 #include "app/controller_box.h"
 #include "app/display_text.h"
@@ -91,7 +92,7 @@ void show_bay(controller& window, const disk_view& disk, std::size_t port) {
     set_tone(port == 0 ? window.disk0picmodefield : window.disk1picmodefield, tone);
     set_tone(port == 0 ? window.disk0modefield : window.disk1modefield, tone);
     QPushButton* direction = port == 0 ? window.rebuild0to1button : window.rebuild1to0button;
-    direction->setToolTip(one_line(disk.rebuild_reason));
+    set_reason(direction, one_line(disk.rebuild_reason));
     extras.empty_pictures[port]->setVisible(!disk.present);
     extras.empty_captions[port]->setVisible(!disk.present);
     extras.empty_words[port]->setVisible(!disk.present);
@@ -120,9 +121,7 @@ void caption_extras(controller& window) {
     window.cleardisk0button->setAccessibleName(localised("ui_clear_disk_1"));
     window.cleardisk1button->setAccessibleName(localised("ui_clear_disk_2"));
     window.minimizebutton->setAccessibleName(localised("ui_minimise"));
-    window.minimizebutton->setToolTip(localised("ui_minimise"));
     window.closebutton->setAccessibleName(localised("ui_close"));
-    window.closebutton->setToolTip(localised("ui_close"));
     window.controllerselectbox->setAccessibleName(localised("ui_controllers"));
     window.workingindicator->setAccessibleName(localised("ui_working"));
     show_restart_target(window, "");
@@ -159,8 +158,8 @@ void clear_scene(controller& window) {
     }
     extras.hint_icon->show();
     extras.rebuild_hint->show();
-    window.rebuild0to1button->setToolTip({});
-    window.rebuild1to0button->setToolTip({});
+    set_reason(window.rebuild0to1button, {});
+    set_reason(window.rebuild1to0button, {});
     restyle(window.rebuild0to1button, "running", false);
     restyle(window.rebuild1to0button, "running", false);
 }
@@ -204,6 +203,6 @@ void show_restart_target(controller& window, const std::string& name) {
                                                            button->width() - padding);
     button->setText(button_text(shown.toStdString()));
     button->setAccessibleName(one_line(text));
-    button->setToolTip(tip_text(one_line(text)));
     button->setEnabled(!name.empty());
+    set_reason(button, localised("ui_reason_no_enclosure"));
 }

@@ -35,6 +35,8 @@ public:
     void set_label(int index, const QString& label);
     QString label(int index) const;
     void selectTabViewItem(int index);
+    // The user's way of bringing a tab to the front.
+    void user_asks_for(int index);
     int selected() const;
     tab_item* item(int index) const { return items_[static_cast<std::size_t>(index)].get(); }
     gated_tab_bar* bar() const { return bar_; }
@@ -45,7 +47,6 @@ protected:
 
 private:
     void arrange();
-    void user_asks_for(int index);
 
     gated_tab_bar* bar_;
     QFrame* frame_;
