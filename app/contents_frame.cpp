@@ -1,6 +1,5 @@
 // What both pages share: background, pages, controller box and the window's own buttons.
 #include <QIcon>
-#include <QKeySequence>
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -48,8 +47,6 @@ void build_rail(controller& window, QWidget* view) {
     for (QPushButton* button : {window.mainguibutton, window.showdiskguibutton}) {
         button->setProperty("kind", "page");
     }
-    window.mainguibutton->setShortcut(QKeySequence(Qt::ALT | Qt::Key_1));
-    window.showdiskguibutton->setShortcut(QKeySequence(Qt::ALT | Qt::Key_2));
     window.extras->page_captions[0] = page_caption(view, QRect(16, 134, 88, 34));
     window.extras->page_captions[1] = page_caption(view, QRect(16, 238, 88, 34));
 }
@@ -60,15 +57,12 @@ void build_top(controller& window, QWidget* view) {
     constexpr QSize small(16, 16);
     window.refresh_button = picture_button(view, "refresh_button", QRect(504, 20, 136, 36),
                                            ":/refresh.png", QSize(20, 16));
-    window.refresh_button->setShortcut(QKeySequence(Qt::Key_F5));
     window.workingindicator =
         make<working_indicator>(view, "workingindicator", QRect(652, 26, 24, 24));
     window.minimizebutton =
         picture_button(view, "minimizebutton", QRect(704, 22, 32, 32), ":/minimise.png", small);
-    window.minimizebutton->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
     window.closebutton =
         picture_button(view, "closebutton", QRect(744, 22, 32, 32), ":/close.png", small);
-    window.closebutton->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     for (QPushButton* button : {window.minimizebutton, window.closebutton}) {
         button->setProperty("kind", "window");
     }

@@ -10,6 +10,7 @@
 #include "app/scene.h"
 #include "app/text_field.h"
 #include "app/window_extras.h"
+#include "app/window_keys.h"
 #include "app/working_indicator.h"
 #include "model/krtool.h"
 #include "model/rescan.h"
@@ -23,6 +24,7 @@ void controller::on_click(QPushButton* button, std::function<void()> action) {
 }
 
 void controller::connect_actions() {
+    connect_keys(*this);
     on_click(refresh_button, [this] { refresh(); });
     on_click(mainguibutton, [this] { switchguimain(); });
     on_click(showdiskguibutton, [this] { switchguishowdisk(); });

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/plain_text.h"
+#include "app/action_tip.h"
 
 controller_box::controller_box(QWidget* parent) : QComboBox(parent) {
     setEditable(true);
@@ -21,7 +21,7 @@ controller_box::controller_box(QWidget* parent) : QComboBox(parent) {
     view()->setTextElideMode(Qt::ElideMiddle);
     connect(this, &QComboBox::activated, this, [this](int) {
         lineEdit()->setCursorPosition(0);
-        setToolTip(tip_text(currentText()));
+        set_tip(this, currentText());
         if (chosen_) {
             chosen_();
         }
@@ -57,7 +57,12 @@ void controller_box::set_placeholder(const QString& text) {
 void controller_box::set_text(const QString& text) {
     setEditText(text);
     lineEdit()->setCursorPosition(0);
-    setToolTip(tip_text(text));
+    set_tip(this, text);
+}
+
+void controller_box::open() {
+    setFocus(Qt::ShortcutFocusReason);
+    showPopup();
 }
 
 void controller_box::select(int entry) {
@@ -84,6 +89,15 @@ int controller_box::entry_of(const controller_t& identity) const {
 
 const controller_t& controller_box::identity(int entry) const {
     return identities_[static_cast<std::size_t>(entry)];
+}
+
+// Nobody edits the text, so the window's keys come before the editor's.
+bool controller_box::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->ignore();
+        return true;
+    }
+    return QComboBox::event(event);
 }
 
 // A wheel turned over the box must not switch bridges.

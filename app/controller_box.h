@@ -20,6 +20,8 @@ public:
     void add_entry(const QString& text, const controller_t& identity);
     // What stands faintly in the box while nothing else does.
     void set_placeholder(const QString& text);
+    // Takes the focus and shows the list, as a key does it.
+    void open();
     // What stands in the box; no entry is touched.
     void set_text(const QString& text);
     // Selects without telling the delegate.
@@ -32,6 +34,7 @@ public:
     const controller_t& identity(int entry) const;
 
 protected:
+    bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 

@@ -10,6 +10,7 @@
 #include "app/titled_box.h"
 #include "app/tree_model.h"
 #include "app/treeview.h"
+#include "app/window_keys.h"
 #include "app/working_indicator.h"
 #include "model/krtool.h"
 
@@ -48,6 +49,7 @@ void controller::setGUIStrings() {
     outlets.set_title(rebuild0to1button, rebuild + "->");
     outlets.set_title(rebuild1to0button, "<-" + rebuild);
     caption_extras(*this);
+    give_keys(*this);
 }
 
 void controller::switchguimain() {

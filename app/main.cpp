@@ -9,6 +9,7 @@
 #include "app/controller.h"
 #include "app/display.h"
 #include "app/look.h"
+#include "app/outlet_names.h"
 #include "app/safety_copy.h"
 #include "app/string_table.h"
 #include "app/system_version.h"
@@ -74,5 +75,8 @@ int main(int argc, char* argv[]) {
     QApplication::setDesktopFileName(QStringLiteral("org.kestrelraid.KestrelRaid"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/kestrelraid.png")));
     QApplication::setQuitOnLastWindowClosed(false);
+#ifdef KESTREL_SHOWS_OUTLET_NAMES
+    const outlet_names names;
+#endif
     return run(application);
 }

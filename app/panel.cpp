@@ -130,7 +130,6 @@ QPushButton* panel_dialog::make_button(const std::string& text, const char* name
     auto* button = new QPushButton(button_text(text));
     button->setObjectName(QLatin1String(name));
     button->setAccessibleName(one_line(text));
-    button->setAccessibleDescription(QLatin1String(name));
     button->setMinimumSize(button_width, button_height);
     // With the focus on it, the Return key means this button and not the default one.
     button->setAutoDefault(true);

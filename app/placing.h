@@ -9,10 +9,9 @@
 // thread.
 void place(QWidget* widget, const QRect& where);
 
-// Gives an outlet its name, which tests and assistive programs find it by.
+// Gives an outlet its name.
 template<class Widget> Widget* outlet(Widget* widget, const char* name) {
     widget->setObjectName(QLatin1String(name));
-    widget->setAccessibleDescription(QLatin1String(name));
     return widget;
 }
 

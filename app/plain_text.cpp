@@ -1,7 +1,5 @@
 #include "app/plain_text.h"
 
-#include <QTextDocument>
-
 namespace {
 
 QString without_controls(const std::string& utf8, bool keep_line_feeds) {
@@ -26,7 +24,12 @@ QString plain_lines(const std::string& utf8) {
 }
 
 QString tip_text(const QString& plain) {
-    return plain.isEmpty() ? QString() : Qt::convertFromPlainText(plain);
+    if (plain.isEmpty()) {
+        return {};
+    }
+    // Its blanks stay, and long lines are broken at them.
+    return QLatin1String("<p style=\"white-space: pre-wrap;\">") + plain.toHtmlEscaped() +
+           QLatin1String("</p>");
 }
 
 QString button_text(const std::string& utf8) {

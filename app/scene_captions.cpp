@@ -3,6 +3,7 @@
 #include <QTreeView>
 #include <array>
 
+#include "app/action_tip.h"
 #include "app/controller.h"
 #include "app/controller_box.h"
 #include "app/direction_evidence.h"
@@ -35,9 +36,7 @@ void caption_frame(controller& window) {
     window.mainguibutton->setAccessibleName(localised("raid_status"));
     window.showdiskguibutton->setAccessibleName(localised("ui_system_information"));
     window.minimizebutton->setAccessibleName(localised("ui_minimise"));
-    window.minimizebutton->setToolTip(localised("ui_minimise"));
     window.closebutton->setAccessibleName(localised("ui_close"));
-    window.closebutton->setToolTip(localised("ui_close"));
     window.controllerselectbox->setAccessibleName(localised("ui_controllers"));
     window.controllerselectbox->set_placeholder(localised("ui_no_enclosure"));
     window.workingindicator->setAccessibleName(localised("ui_working"));
@@ -111,6 +110,6 @@ void show_restart_target(controller& window, const std::string& name) {
                                                            button->width() - padding);
     button->setText(button_text(shown.toStdString()));
     button->setAccessibleName(one_line(text));
-    button->setToolTip(tip_text(one_line(text)));
     button->setEnabled(!name.empty());
+    set_reason(button, localised("ui_reason_no_enclosure"));
 }

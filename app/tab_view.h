@@ -37,6 +37,8 @@ public:
     void set_icon(int index, const QString& file);
     QString label(int index) const;
     void selectTabViewItem(int index);
+    // The user's way of bringing a tab to the front.
+    void user_asks_for(int index);
     int selected() const;
     tab_item* item(int index) const { return items_[static_cast<std::size_t>(index)].get(); }
     gated_tab_bar* bar() const { return bar_; }
@@ -47,7 +49,6 @@ protected:
 
 private:
     void arrange();
-    void user_asks_for(int index);
 
     gated_tab_bar* bar_;
     QFrame* frame_;

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QStyle>
 
-#include "app/plain_text.h"
+#include "app/action_tip.h"
 
 text_field::text_field(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -62,5 +62,5 @@ bool text_field::too_long() const {
 }
 
 void text_field::show_tip() {
-    setToolTip(too_long() ? tip_text(text()) : QString());
+    set_tip(this, too_long() ? text() : QString());
 }

@@ -2,6 +2,7 @@
 
 import json
 import os
+import re
 import subprocess
 import sys
 import time
@@ -81,6 +82,11 @@ def descend(node):
             yield from descend(child)
 
 
+def description(node):
+    """What a screen reader says of it beside its name; the program for tests appends its outlet's name."""
+    return re.sub(r" ?\[\w+\]$", "", node.get_description())
+
+
 class Program:
     """A running kestrelraid."""
 
@@ -107,7 +113,7 @@ class Program:
     def find(self, outlet):
         """The widget of a member of the window, or None."""
         for node in descend(self.application):
-            if node.get_description() == outlet:
+            if node.get_description().endswith(f"[{outlet}]"):
                 return node
         return None
 
@@ -170,7 +176,7 @@ class Program:
     def asks(self, message):
         """The panel in front when it has this message, or None."""
         panel = self.panel()
-        return panel if panel and panel.get_description() == message else None
+        return panel if panel and description(panel) == message else None
 
     def await_panel(self, message, seconds=60):
         return wait_for(f"the panel '{message}'", lambda: self.asks(message), seconds)
@@ -181,7 +187,7 @@ class Program:
         if picture:
             self.picture(picture)
         for node in descend(panel):
-            if node.get_description() == button:
+            if node.get_description().endswith(f"[{button}]"):
                 Atspi.Action.do_action(node, 0)
         wait_for(f"the panel '{message}' to close", lambda: not self.asks(message))
 

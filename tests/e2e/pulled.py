@@ -1,7 +1,7 @@
 """Disks and cables are pulled at the worst moment: the window goes on, and no disk loses what was not given up."""
 
 from disks import Disk, safety_copies
-from kestrel import Failure, Program, check, enclosure, enclosures, run, texts, wait_for
+from kestrel import Failure, Program, check, description, enclosure, enclosures, run, texts, wait_for
 from pulse import Pulse
 
 L = texts()
@@ -77,7 +77,7 @@ def answer_all(until):
     def look():
         panel = program.panel()
         if panel:
-            said.append(panel.get_description())
+            said.append(description(panel))
             program.answer(said[-1])
             return False
         return not program.busy() and until()

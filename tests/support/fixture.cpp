@@ -49,6 +49,14 @@ krchip& model_test::take_chip(std::optional<memory_disk> disk0, std::optional<me
     return chip;
 }
 
+void model_test::forget_all() {
+    library.with_bridges([](memory_enclosure& all) { all.bridges.clear(); });
+    const gate_scope work(j.gate);
+    const lock_scope lock(j.records);
+    j.chips.clear();
+    j.current.clear();
+}
+
 void model_test::let_the_window_select() {
     view.on("select_first_controller", [this] {
         if (j.controller_map.empty() || j.chips.empty()) {

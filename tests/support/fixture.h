@@ -37,6 +37,8 @@ protected:
     // current one, with its metadata read. The log is empty afterwards.
     krchip& take_chip(std::optional<memory_disk> disk0, std::optional<memory_disk> disk1,
                       bool firewire = false);
+    // No bridge is attached and none is in `j`.
+    void forget_all();
     // What the window does when it is told to select the first of its list.
     void let_the_window_select();
 };

@@ -25,14 +25,6 @@ protected:
     }
 
     // As if no bridge had ever been there.
-    void forget_all() {
-        library.with_bridges([](memory_enclosure& all) { all.bridges.clear(); });
-        const gate_scope work(j.gate);
-        const lock_scope lock(j.records);
-        j.chips.clear();
-        j.current.clear();
-    }
-
     void take_mirror() {
         forget_all();
         take_chip(member_a(mode_raid1), member_b(mode_raid1));

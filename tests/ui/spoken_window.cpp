@@ -169,15 +169,21 @@ void spoken_window::prepare_disks(krchip& chip, int mode0, int mode1) {
     chip.disks[0].model = chip.disks[1].model = "WDC WD20EFRX-68EUZN0";
     chip.disks[0].serial = "WD-WCC4M0XJ2K7L";
     chip.disks[1].serial = "WD-WCC4M5PR81TC";
+    chip.identity.serial = "ABC123";
     chip.raid_mode = mode0;
     chip.raid_capacity = two_terabytes - 16;
 }
 
 void spoken_window::show_chip_state(const std::function<void(krchip&)>& prepare) {
+    forget_all();
     show_chip(prepare);
+    registered_bridge bridge = usb_bridge(1, 2, 0x14100000);
+    bridge.name = "Kestrel Duo";
+    registry.put(device, bridge);
     window->raidconfigradiobutton->click_row(1);
     window->update_controller_list();
     window->select_first_controller();
+    window->stopworking();
     window->update_raid_information();
 }
 
