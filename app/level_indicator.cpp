@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QVariantAnimation>
 #include <algorithm>
 
 namespace {
@@ -11,12 +12,13 @@ constexpr int glide_time = 300; // ms
 
 } // namespace
 
-level_indicator::level_indicator(QWidget* parent) : QProgressBar(parent) {
+level_indicator::level_indicator(QWidget* parent)
+    : QProgressBar(parent), glide_(new QVariantAnimation(this)) {
     setRange(0, static_cast<int>(full));
     setTextVisible(false);
-    glide_.setEasingCurve(QEasingCurve::OutCubic);
-    glide_.setDuration(glide_time);
-    connect(&glide_, &QVariantAnimation::valueChanged, this,
+    glide_->setEasingCurve(QEasingCurve::OutCubic);
+    glide_->setDuration(glide_time);
+    connect(glide_, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& value) { show_level(value.toDouble()); });
     set_level(0.0);
 }
@@ -24,15 +26,15 @@ level_indicator::level_indicator(QWidget* parent) : QProgressBar(parent) {
 void level_indicator::set_level(double percent) {
     level_ = std::clamp(percent, 0.0, full);
     setValue(static_cast<int>(level_));
-    glide_.stop();
+    glide_->stop();
     const bool motion = style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
     if (!motion || !isVisible() || level_ < shown_) {
         show_level(level_);
         return;
     }
-    glide_.setStartValue(shown_);
-    glide_.setEndValue(level_);
-    glide_.start();
+    glide_->setStartValue(shown_);
+    glide_->setEndValue(level_);
+    glide_->start();
 }
 
 void level_indicator::set_stalled(bool stalled) {

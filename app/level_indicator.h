@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QProgressBar>
-#include <QVariantAnimation>
+
+class QVariantAnimation;
 
 // 0 to 100 per cent. Interface thread.
 class level_indicator final : public QProgressBar {
@@ -25,5 +26,5 @@ private:
     double level_ = 0.0;
     double shown_ = 0.0; // on its way to the level
     bool stalled_ = false;
-    QVariantAnimation glide_;
+    QVariantAnimation* glide_;
 };

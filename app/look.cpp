@@ -36,6 +36,14 @@ QString eastern_family(const QString& language) {
                                               : QStringLiteral("Noto Sans CJK SC");
 }
 
+// Their signs need a little more than small Latin letters do.
+QString eastern_rules(const QString& language) {
+    const QStringList eastern = {QStringLiteral("ja"), QStringLiteral("ko"),
+                                 QStringLiteral("zh_CN"), QStringLiteral("zh_TW")};
+    return eastern.contains(language) ? QStringLiteral("QLabel[role=\"tag\"] { font-size: 12px; }")
+                                      : QString();
+}
+
 QFont text_font(const QString& language) {
     QFont font;
     font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans"),
@@ -52,6 +60,6 @@ void apply_look(QApplication& application, const QString& language) {
     QApplication::setFont(text_font(language));
     QFile sheet(QStringLiteral(":/lumen.qss"));
     if (sheet.open(QIODevice::ReadOnly)) {
-        application.setStyleSheet(QString::fromUtf8(sheet.readAll()));
+        application.setStyleSheet(QString::fromUtf8(sheet.readAll()) + eastern_rules(language));
     }
 }

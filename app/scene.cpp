@@ -12,6 +12,7 @@
 #include "app/pace_text.h"
 #include "app/placing.h"
 #include "app/plain_text.h"
+#include "app/radio_matrix.h"
 #include "app/scene_outlook.h"
 #include "app/styling.h"
 #include "app/tab_view.h"
@@ -163,6 +164,7 @@ void clear_scene(controller& window) {
     window.levelindicator->set_stalled(false);
     extras.hint_icon->show();
     extras.rebuild_hint->show();
+    window.raidconfigradiobutton->setEnabled(false);
     window.tabview->set_icon(window.rebuildtab->index, QString());
     restyle(window.rebuild0to1button, "running", false);
     restyle(window.rebuild1to0button, "running", false);
@@ -203,6 +205,7 @@ void show_chip_scene(controller& window, const view_state& view, const outlook& 
     if (view.rebuild_tab_for_choice) {
         window.tabview->set_icon(window.rebuildtab->index, QStringLiteral(":/status-warn.png"));
     }
+    window.raidconfigradiobutton->setEnabled(true);
     show_outlook(window, now);
 }
 

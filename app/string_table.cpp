@@ -1,7 +1,6 @@
 #include "app/string_table.h"
 
 #include <QCoreApplication>
-#include <algorithm>
 
 std::string string_table::text(std::string_view key) const {
     const auto found = texts_.find(key);
@@ -23,11 +22,12 @@ QString table_for(const QString& wish) {
     const QStringList parts = wish.split(QLatin1Char('-'));
     const QString& language = parts.front();
     if (language == QLatin1String("zh")) {
-        const QStringList traditional = {QStringLiteral("Hant"), QStringLiteral("TW"),
-                                         QStringLiteral("HK"), QStringLiteral("MO")};
+        // The script counts more than the territory.
         const bool is_traditional =
-            std::any_of(parts.begin(), parts.end(),
-                        [&](const QString& part) { return traditional.contains(part); });
+            parts.contains(QLatin1String("Hant")) ||
+            (!parts.contains(QLatin1String("Hans")) &&
+             (parts.contains(QLatin1String("TW")) || parts.contains(QLatin1String("HK")) ||
+              parts.contains(QLatin1String("MO"))));
         return is_traditional ? QStringLiteral("zh_TW") : QStringLiteral("zh_CN");
     }
     return our_languages().contains(language) ? language : QString();

@@ -37,7 +37,7 @@ protected:
     void disks(krchip& chip, int mode0, int mode1) { prepare_disks(chip, mode0, mode1); }
 
     void save(const QString& name) {
-        QCoreApplication::processEvents();
+        settle();
         save_picture(window->mainview->grab(), language() + QLatin1Char('-') + name);
     }
 
@@ -91,7 +91,7 @@ protected:
         for (int place = 0; place < languages.size(); ++place) {
             open_in(languages[place]);
             show_state(state);
-            QCoreApplication::processEvents();
+            settle();
             const QPixmap shown = window->mainview->grab();
             painter.drawPixmap(
                 QRect(QPoint(place % columns * one.width(), place / columns * one.height()), one),

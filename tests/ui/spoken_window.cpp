@@ -3,9 +3,11 @@
 #include <QApplication>
 #include <QEvent>
 #include <QPushButton>
+#include <QVariantAnimation>
 #include <algorithm>
 #include <map>
 
+#include "app/krview.h"
 #include "app/look.h"
 #include "app/radio_matrix.h"
 #include "app/string_table.h"
@@ -161,6 +163,16 @@ void spoken_window::show_state(const std::string& name) {
             state.prepare(chip);
         });
     }
+}
+
+void spoken_window::settle() {
+    serve_until([this] {
+        const auto moving = window->mainview->findChildren<QVariantAnimation*>();
+        return std::none_of(moving.begin(), moving.end(), [](const QVariantAnimation* one) {
+            return one->state() == QAbstractAnimation::Running;
+        });
+    });
+    QCoreApplication::processEvents();
 }
 
 void spoken_window::prepare_disks(krchip& chip, int mode0, int mode1) {

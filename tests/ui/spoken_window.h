@@ -23,6 +23,9 @@ protected:
     // Shows one of them. A state follows another as well as the empty window.
     void show_state(const std::string& name);
 
+    // Serves the window until nothing moves in it.
+    void settle();
+
     // Two disks with these modes; the array's size and kind are those of the first.
     void prepare_disks(krchip& chip, int mode0, int mode1);
 

@@ -93,6 +93,15 @@ TEST(string_tables, FirstPreferredLanguageThatThereIsWins) {
     EXPECT_EQ(language_for({"en-US", "de-DE"}), QStringLiteral("en"));
 }
 
+TEST(string_tables, ChineseGoesByScriptOrTerritory) {
+    for (const char* wish : {"zh", "zh-CN", "zh-Hans-CN", "zh-SG", "zh-Hans-HK"}) {
+        EXPECT_EQ(language_for({wish}), QStringLiteral("zh_CN")) << wish;
+    }
+    for (const char* wish : {"zh-TW", "zh-Hant-TW", "zh-HK", "zh-MO", "zh-Hant"}) {
+        EXPECT_EQ(language_for({wish}), QStringLiteral("zh_TW")) << wish;
+    }
+}
+
 TEST(plain_text, ControlCharactersBecomeBlanks) {
     EXPECT_EQ(one_line("a\x01\t\n\x7F"
                        "b\xC2\x85"),
