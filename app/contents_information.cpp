@@ -36,6 +36,7 @@ text_field* value_field(QWidget* page, const char* name, const QRect& where) {
 text_field* caption_field(QWidget* page, const char* name, const QRect& where) {
     auto* field = with_role(make<text_field>(page, name, where), "state", "quiet");
     field->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    field->setWordWrap(true);
     return field;
 }
 
@@ -50,7 +51,6 @@ void build_card(QWidget* page, int port, const card_outlets& outlets) {
     *outlets.heading =
         with_role(make<text_field>(page, outlets.names[0], at(QRect(208, 90, 216, 22))), "caption");
     *outlets.model = caption_field(page, outlets.names[1], at(QRect(208, 114, 216, 36)));
-    (*outlets.model)->setWordWrap(true);
     with_role(make<QFrame>(page, at(QRect(148, 158, 276, 1))), "hairline");
     for (std::size_t row = 0; row < outlets.captions.size(); ++row) {
         const int down = static_cast<int>(row) * row_distance;

@@ -513,7 +513,7 @@
     </message>
     <message id="ui_overwritten">
         <source></source>
-        <translation>überschrieben</translation>
+        <translation>gelöscht</translation>
     </message>
     <message id="ui_in_use">
         <source></source>

@@ -1,0 +1,118 @@
+// Nothing is cut and nothing overlaps, in any language. Run once for each scale.
+#include "tests/ui/fit.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+#include "app/krview.h"
+#include "app/string_table.h"
+#include "app/text_field.h"
+#include "tests/ui/spoken_window.h"
+
+namespace {
+
+using testing::IsEmpty;
+
+std::vector<std::string> lines_of(const QStringList& list) {
+    std::vector<std::string> all;
+    for (const QString& line : list) {
+        all.push_back(line.toStdString());
+    }
+    return all;
+}
+
+std::vector<std::string> languages() {
+    return lines_of(our_languages());
+}
+
+class every_text : public spoken_window, public testing::WithParamInterface<std::string> {
+protected:
+    void SetUp() override { open_in(QString::fromStdString(GetParam())); }
+
+    // Measures the panel while it is open.
+    std::vector<std::string> misfits_of_panel(const panel_request& request) {
+        std::vector<std::string> found;
+        input_guard guard;
+        QTimer::singleShot(0, window->mainview, [&] {
+            found = lines_of(misfits(*guard.topmost_panel()));
+            dismiss_topmost_panel(guard);
+        });
+        run_panel(window->mainview, guard, request);
+        return found;
+    }
+
+    panel_request question(const char* message, array_change what, int mode) {
+        const std::optional<chip_snapshot> current = j.current_chip();
+        const change_plan plan =
+            plan_change(what, mode, &current->chip, "Kestrel Duo (S/N: ABC123)");
+        return {panel_kind::warning,
+                translated("warning"),
+                translated(message),
+                {translated("ok"), translated("cancel")},
+                describe(plan, true, texts)};
+    }
+};
+
+TEST_P(every_text, FitsInEveryState) {
+    for (const std::string& state : state_names()) {
+        show_state(state);
+        QCoreApplication::processEvents();
+        EXPECT_THAT(lines_of(misfits(*window->mainview)), IsEmpty()) << state;
+    }
+}
+
+TEST_P(every_text, FitsInEveryQuestion) {
+    show_state("diverged");
+    for (const array_change what : {array_change::rebuild0to1, array_change::rebuild1to0}) {
+        EXPECT_THAT(misfits_of_panel(question("disk1_to_disk2", what, 0)), IsEmpty());
+    }
+    for (const array_change what : {array_change::clear_array, array_change::clear_disk0}) {
+        EXPECT_THAT(misfits_of_panel(question("all_data_lost", what, 0)), IsEmpty());
+    }
+    for (const int mode : {mode_raid0, mode_raid1, mode_span}) {
+        EXPECT_THAT(misfits_of_panel(question("all_data_lost", array_change::create, mode)),
+                    IsEmpty());
+    }
+}
+
+TEST_P(every_text, FitsInEveryMessage) {
+    for (const char* message :
+         {"raid1_degrade_mode", "raid_info_conflict", "two_raid1_disks_for_rebuild",
+          "raid_create_error", "raid_delete_error", "raid_info_delete_error", "rebuild_error",
+          "rebuild_finished", "hot_swap", "error_open_device"}) {
+        EXPECT_THAT(misfits_of_panel({panel_kind::attention,
+                                      translated("attention"),
+                                      translated(message),
+                                      {translated("ok")},
+                                      {}}),
+                    IsEmpty())
+            << message;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(languages, every_text, testing::ValuesIn(languages()),
+                         [](const auto& language) { return language.param; });
+
+// The measure itself.
+class measure : public spoken_window {
+protected:
+    void SetUp() override { open_in(QStringLiteral("en")); }
+};
+
+TEST_F(measure, FindsATextThatIsCut) {
+    show_state("raid1");
+    window->raidmodelabel->set_value(QString(80, QLatin1Char('W')));
+    EXPECT_THAT(lines_of(misfits(*window->mainview)),
+                testing::ElementsAre(testing::HasSubstr("raidmodelabel")));
+}
+
+TEST_F(measure, FindsTextsThatOverlap) {
+    show_state("raid1");
+    window->disk0caplabel->move(window->raidmodelabel->pos());
+    EXPECT_THAT(lines_of(misfits(*window->mainview)),
+                testing::Contains(testing::HasSubstr("overlaps")));
+}
+
+} // namespace
