@@ -177,6 +177,8 @@ public:
     void switchguimain();
     void switchguishowdisk();
     void minimizewindow();
+    // What to do when a disk has failed. Returns when the guide is closed.
+    void show_guide();
 
     // Device tree.
     void refreshtree() override;

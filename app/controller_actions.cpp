@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "app/controller.h"
+#include "app/guide.h"
+#include "app/krview.h"
 #include "app/level_indicator.h"
 #include "app/main_window.h"
 #include "app/plain_text.h"
@@ -35,6 +37,7 @@ void controller::connect_actions() {
     on_click(cleardisk0button, [this] { cleardisk0(); });
     on_click(cleardisk1button, [this] { cleardisk1(); });
     on_click(extras->warmbootbutton, [this] { warmboot(); });
+    on_click(extras->status.guide_link, [this] { show_guide(); });
     // These two are obeyed during work as well.
     QObject::connect(minimizebutton, &QPushButton::clicked, minimizebutton,
                      [this] { minimizewindow(); });
@@ -127,6 +130,11 @@ void controller::show_message(const std::string& text) {
 
 void controller::show_hot_swap_message() {
     show_message(localised("hot_swap"));
+}
+
+void controller::show_guide() {
+    run_guide(mainview, guard_, j.with.texts);
+    obey_remembered_exit();
 }
 
 void controller::minimizewindow() {

@@ -2,16 +2,15 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QEventLoop>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "app/input_guard.h"
+#include "app/overlay.h"
 #include "app/panel_texts.h"
 #include "app/placing.h"
 #include "app/plain_text.h"
@@ -152,27 +151,15 @@ int run_panel(QWidget* window, input_guard& guard, const panel_request& request)
     if (window == nullptr || request.buttons.empty()) {
         return panel_failed;
     }
-    const QPointer<QWidget> focused = QApplication::focusWidget();
-    QFrame scrim(window);
-    scrim.setProperty("role", "scrim");
-    scrim.setGeometry(window->rect());
-    panel_dialog panel(&scrim, request);
-    panel.move((window->width() - panel.width()) / 2, (window->height() - panel.height()) / 2);
-
-    scrim.show();
-    scrim.raise();
-    panel.show();
-    guard.open_panel(&panel);
-    panel.setFocus();
-    QApplication::alert(window);
-    QEventLoop loop;
-    QObject::connect(&panel, &QDialog::finished, &loop, &QEventLoop::quit);
-    loop.exec();
-    guard.close_panel(&panel);
-    if (focused) {
-        focused->setFocus();
-    }
-    return panel.answer();
+    panel_dialog* panel = nullptr;
+    int answer = panel_failed;
+    run_over(window, guard, [&](QWidget* parent) {
+        panel = new panel_dialog(parent, request);
+        QObject::connect(panel, &QDialog::finished, panel, [&] { answer = panel->answer(); });
+        QApplication::alert(window);
+        return panel;
+    });
+    return answer;
 }
 
 void dismiss_topmost_panel(const input_guard& guard) {

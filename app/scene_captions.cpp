@@ -1,4 +1,5 @@
 // Captions of what is no outlet.
+#include <QKeySequence>
 #include <QPushButton>
 #include <QTreeView>
 #include <array>
@@ -50,6 +51,8 @@ void caption_status(controller& window) {
         extras.empty_words[port]->set_value(localised("ui_empty_bay"));
     }
     extras.guide_link->setText(button_text(j.with.texts.text("ui_guide_link")));
+    extras.guide_link->setAccessibleName(localised("ui_guide_link"));
+    set_tip(extras.guide_link, name_and_key(localised("ui_guide_link"), QKeySequence(Qt::Key_F1)));
     const std::string wait =
         filled(j.with.texts.text("ui_step_wait"), {j.with.texts.text("refresh_button")});
     extras.steps[0]->set_step(1, localised("ui_step_connect"));

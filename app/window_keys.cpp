@@ -9,6 +9,7 @@
 #include "app/controller.h"
 #include "app/controller_box.h"
 #include "app/gated_tab_bar.h"
+#include "app/krview.h"
 #include "app/plain_text.h"
 #include "app/tab_view.h"
 #include "app/window_extras.h"
@@ -38,6 +39,7 @@ void connect_keys(controller& window) {
     }
     controller_box* box = window.controllerselectbox;
     new QShortcut(list_key, box, [box] { box->open(); });
+    new QShortcut(Qt::Key_F1, window.mainview, [&window] { window.show_guide(); });
 }
 
 void give_keys(controller& window) {

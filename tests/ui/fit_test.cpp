@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 
+#include "app/guide.h"
 #include "app/krview.h"
 #include "app/string_table.h"
 #include "app/text_field.h"
@@ -90,6 +91,19 @@ TEST_P(every_text, FitsInEveryMessage) {
                     IsEmpty())
             << message;
     }
+}
+
+TEST_P(every_text, FitsInTheGuide) {
+    std::vector<std::string> found;
+    input_guard guard;
+    QTimer::singleShot(0, window->mainview, [&] {
+        const QWidget* guide = guard.topmost_panel();
+        found = lines_of(misfits(*guide));
+        EXPECT_TRUE(window->mainview->rect().contains(guide->geometry()));
+        dismiss_topmost_panel(guard);
+    });
+    run_guide(window->mainview, guard, texts);
+    EXPECT_THAT(found, IsEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(languages, every_text, testing::ValuesIn(languages()),

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "app/guide.h"
 #include "app/krview.h"
 #include "app/string_table.h"
 #include "tests/ui/spoken_window.h"
@@ -56,6 +57,11 @@ protected:
     void ask(const QString& name, const panel_request& request) {
         window->update_controller_list();
         window->update_raid_information();
+        save_open(name, [&](input_guard& guard) { run_panel(window->mainview, guard, request); });
+    }
+
+    // Saves what `open` opens over the window, and closes it.
+    void save_open(const QString& name, const std::function<void(input_guard& guard)>& open) {
         input_guard guard;
         QTimer visit;
         visit.setSingleShot(true);
@@ -64,7 +70,7 @@ protected:
             dismiss_topmost_panel(guard);
         });
         visit.start();
-        run_panel(window->mainview, guard, request);
+        open(guard);
     }
 };
 
@@ -109,6 +115,12 @@ TEST_F(sheet, OfTheRebuild) {
 
 TEST_F(sheet, OfDivergedCopies) {
     save_sheet("diverged-hover");
+}
+
+TEST_F(pictures, Guide) {
+    show_state("degraded");
+    save_open(QStringLiteral("guide"),
+              [this](input_guard& guard) { run_guide(window->mainview, guard, texts); });
 }
 
 TEST_F(pictures, ConfirmCreating) {
