@@ -138,6 +138,7 @@ std::vector<std::string> spoken_window::state_names() {
 void spoken_window::show_state(const std::string& name) {
     window->switchguimain();
     if (name == "empty") {
+        forget_all();
         window->cleargui();
         window->update_raid_information();
     } else if (name == "scanning") {
@@ -192,11 +193,11 @@ void spoken_window::show_chip_state(const std::function<void(krchip&)>& prepare)
     registered_bridge bridge = usb_bridge(1, 2, 0x14100000);
     bridge.name = "Kestrel Duo";
     registry.put(device, bridge);
-    window->raidconfigradiobutton->click_row(1);
     window->update_controller_list();
     window->select_first_controller();
     window->stopworking();
     window->update_raid_information();
+    window->raidconfigradiobutton->click_row(1);
 }
 
 // Follows a rebuild for a while, in which it moves on by that many sectors at each reading.

@@ -1,0 +1,215 @@
+// What the window shows around its outlets, state by state.
+#include "app/scene.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QEnterEvent>
+#include <QFrame>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+#include <gmock/gmock.h>
+#include <map>
+
+#include "app/krview.h"
+#include "app/level_indicator.h"
+#include "app/panel.h"
+#include "app/radio_matrix.h"
+#include "app/text_field.h"
+#include "app/verdict_pill.h"
+#include "app/window_extras.h"
+#include "tests/ui/spoken_window.h"
+
+namespace {
+
+class scene : public spoken_window {
+protected:
+    void SetUp() override { open_in(QStringLiteral("en")); }
+
+    std::string verdict_shown() const {
+        const auto* word = window->extras->status.verdict->findChild<text_field*>("verdict");
+        return window->extras->status.verdict->isVisible() ? word->text().toStdString() : "";
+    }
+
+    QString fate_of_card(std::size_t port) const {
+        return window->extras->cards[port].frame->property("fate").toString();
+    }
+
+    void look_at(QPushButton* button) {
+        QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+        QCoreApplication::sendEvent(button, &enter);
+    }
+
+    void look_away_from(QPushButton* button) {
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(button, &leave);
+    }
+};
+
+TEST_F(scene, VerdictStandsInEveryState) {
+    const std::map<std::string, std::string> words = {
+        {"empty", "No enclosure"},
+        {"scanning", "Scanning"},
+        {"no-disks", "No disks"},
+        {"one-disk", "Not configured"},
+        {"unconfigured", "Not configured"},
+        {"raid0", "Healthy"},
+        {"raid1", "Healthy"},
+        {"span", "Healthy"},
+        {"degraded", "Degraded"},
+        {"fresh-disk", "Degraded"},
+        {"diverged", "Copies differ"},
+        {"broken-stripe", "Broken"},
+        {"rebuild", "Rebuilding"},
+    };
+    for (const auto& [state, word] : words) {
+        show_state(state);
+        EXPECT_EQ(verdict_shown(), word) << state;
+    }
+}
+
+TEST_F(scene, BlankWindowPassesNoVerdict) {
+    show_state("raid1");
+    window->cleargui();
+    EXPECT_EQ(verdict_shown(), "");
+    EXPECT_EQ(window->extras->status.advice->text(), QString());
+}
+
+TEST_F(scene, CreateIsTheBrightButtonOfAPlainPairAlone) {
+    for (const std::string& state : state_names()) {
+        show_state(state);
+        const bool bright = window->confirmbutton->property("kind") == "primary";
+        EXPECT_EQ(bright, state == "unconfigured" || state == "kind-not-chosen") << state;
+    }
+}
+
+TEST_F(scene, EveryButtonThatIsOffSaysWhy) {
+    for (const std::string& state : state_names()) {
+        show_state(state);
+        for (const QPushButton* button : {window->confirmbutton, window->clearconfigbutton,
+                                          window->rebuild0to1button, window->rebuild1to0button}) {
+            const QString said = button->accessibleDescription();
+            EXPECT_TRUE(button->isEnabled() || said.endsWith(QLatin1Char('.')))
+                << state << " " << button->objectName().toStdString() << " " << said.toStdString();
+        }
+    }
+}
+
+TEST_F(scene, ChoiceOfNoArraySaysWhyNothingCanBeCreated) {
+    show_state("kind-not-chosen");
+    EXPECT_FALSE(window->confirmbutton->isEnabled());
+    EXPECT_EQ(window->confirmbutton->accessibleDescription(),
+              QStringLiteral("Choose RAID 0, RAID 1 or span first."));
+}
+
+TEST_F(scene, OnlyTheRowOfTheArrayIsInUse) {
+    show_state("span");
+    QStringList tags;
+    for (const text_field* field : window->raidconfigradiobutton->findChildren<text_field*>()) {
+        if (field->property("role") == "tag" && !field->text().isEmpty()) {
+            tags << field->parentWidget()->findChild<QRadioButton*>()->accessibleName();
+        }
+    }
+    EXPECT_EQ(tags, QStringList{QStringLiteral("Span")});
+    EXPECT_EQ(window->raidconfigradiobutton->selected_row(), 1);
+}
+
+TEST_F(scene, KindsCannotBeChosenWhileNothingIsKnown) {
+    show_state("empty");
+    EXPECT_FALSE(window->raidconfigradiobutton->isEnabled());
+    show_state("degraded");
+    EXPECT_TRUE(window->raidconfigradiobutton->isEnabled());
+}
+
+TEST_F(scene, DirectionThatIsLookedAtShowsWhatItWouldDo) {
+    show_state("diverged");
+    look_at(window->rebuild1to0button);
+    EXPECT_EQ(fate_of_card(0), QStringLiteral("lost"));
+    EXPECT_EQ(fate_of_card(1), QStringLiteral("stays"));
+    EXPECT_EQ(window->extras->cards[0].fate->text(), QStringLiteral("overwritten"));
+    EXPECT_EQ(window->extras->cards[1].fate->text(), QStringLiteral("stays"));
+    look_away_from(window->rebuild1to0button);
+    EXPECT_EQ(fate_of_card(0), QString());
+    EXPECT_EQ(window->extras->cards[0].fate->text(), QString());
+}
+
+TEST_F(scene, FocusShowsTheSameAsTheMouse) {
+    show_state("diverged");
+    QFocusEvent in(QEvent::FocusIn, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(window->rebuild0to1button, &in);
+    EXPECT_EQ(fate_of_card(1), QStringLiteral("lost"));
+    QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(window->rebuild0to1button, &out);
+    EXPECT_EQ(fate_of_card(1), QString());
+}
+
+TEST_F(scene, DirectionThatIsOffShowsNothing) {
+    show_state("fresh-disk");
+    look_at(window->rebuild1to0button);
+    EXPECT_EQ(fate_of_card(0), QString());
+}
+
+TEST_F(scene, RunningRebuildLightsItsSourceWhateverIsLookedAt) {
+    show_state("rebuild");
+    EXPECT_EQ(fate_of_card(0), QStringLiteral("stays"));
+    look_at(window->rebuild0to1button);
+    look_away_from(window->rebuild0to1button);
+    EXPECT_EQ(fate_of_card(0), QStringLiteral("stays"));
+}
+
+TEST_F(scene, RunningRebuildTellsItsSpeedAndTheTimeLeft) {
+    show_state("rebuild");
+    EXPECT_EQ(window->extras->speed->text(), QStringLiteral("128 MB/s"));
+    EXPECT_EQ(window->extras->time_left->text(), QStringLiteral("about 2 h 43 min left"));
+    show_state("rebuild-stalled");
+    EXPECT_EQ(window->extras->speed->text(), QStringLiteral("stalled"));
+    EXPECT_EQ(window->extras->time_left->text(), QString());
+    window->cleargui();
+    EXPECT_EQ(window->extras->speed->text(), QString());
+}
+
+TEST_F(scene, ChangeOfTheArraySaysThatItGoesOn) {
+    show_state("unconfigured");
+    window->cleargui();
+    show_changing_scene(*window);
+    EXPECT_EQ(window->extras->status.note_heading->text(), QStringLiteral("Changing the array…"));
+    EXPECT_FALSE(window->confirmbutton->isEnabled());
+}
+
+TEST_F(scene, GuideIsLinkedWhereADiskHasFailedAlone) {
+    for (const std::string& state : state_names()) {
+        show_state(state);
+        const bool linked = window->extras->status.guide_link->isVisible();
+        const bool amiss = verdict_shown() == "Degraded" || verdict_shown() == "Copies differ" ||
+                           verdict_shown() == "Broken";
+        EXPECT_EQ(linked, amiss && state != "info") << state;
+    }
+}
+
+TEST_F(scene, GuideNamesThePagesByTheirCaptionsAndClosesOnReturn) {
+    show_state("degraded");
+    QStringList said;
+    QTimer::singleShot(0, window->mainview, [&] {
+        auto* guide = window->mainview->findChild<QDialog*>("guide");
+        ASSERT_NE(guide, nullptr);
+        for (const QLabel* label : guide->findChildren<QLabel*>()) {
+            said << label->text();
+        }
+        QTest::keyClick(guide, Qt::Key_Return);
+    });
+    window->extras->status.guide_link->click();
+    EXPECT_TRUE(window->idle());
+    EXPECT_TRUE(said.join(QLatin1Char(' ')).contains(QStringLiteral("The “RAID status” page")));
+    EXPECT_TRUE(said.contains(QStringLiteral("2. Find the failed disk")));
+}
+
+TEST_F(scene, MissingPicturesLeaveAUsableWindow) {
+    show_state("raid1");
+    window->disk0cappicture->setPixmap({});
+    window->mainview->set_back({});
+    EXPECT_FALSE(window->mainview->grab().isNull());
+    EXPECT_TRUE(window->clearconfigbutton->isEnabled());
+}
+
+} // namespace
