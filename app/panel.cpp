@@ -122,7 +122,7 @@ QLayout* panel_dialog::make_buttons(const panel_request& request) {
     first->setProperty("kind", two_buttons_ ? "destructive" : "");
     connect(first, &QPushButton::clicked, this, &QDialog::accept);
     row->addWidget(first);
-    first->setFocus(Qt::OtherFocusReason);
+    setFocusProxy(first);
     return row;
 }
 
@@ -161,17 +161,16 @@ int run_panel(QWidget* window, input_guard& guard, const panel_request& request)
 
     scrim.show();
     scrim.raise();
-    panel.show();
     guard.open_panel(&panel);
+    panel.show();
     panel.setFocus();
     QApplication::alert(window);
     QEventLoop loop;
     QObject::connect(&panel, &QDialog::finished, &loop, &QEventLoop::quit);
     loop.exec();
     guard.close_panel(&panel);
-    if (focused) {
-        focused->setFocus();
-    }
+    const bool usable = focused && focused->isEnabled() && focused->isVisible();
+    (usable ? focused.data() : window)->setFocus();
     return panel.answer();
 }
 

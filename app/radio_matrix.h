@@ -23,6 +23,7 @@ public:
     void set_row_text(int row, const QString& name, const QString& meaning);
     // -1: no row.
     int selected_row() const;
+    QWidget* button(int row) const;
     // The user's way of choosing.
     void click_row(int row);
     // Without the delegate; -1 takes the choice away.

@@ -68,7 +68,11 @@ void tab_view::selectTabViewItem(int index) {
         return;
     }
     bar_->bring_to_front(index);
-    pages_->setCurrentIndex(index);
+    if (index != selected()) {
+        // The focus leaves with the page, before the stack hands it to whatever comes first.
+        pages_->currentWidget()->hide();
+        pages_->setCurrentIndex(index);
+    }
 }
 
 int tab_view::selected() const {
