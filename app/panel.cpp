@@ -48,6 +48,8 @@ class panel_dialog final : public QDialog {
 public:
     panel_dialog(QWidget* parent, const panel_request& request);
 
+    // Where a screen reader starts: it reads the panel around the button first.
+    void focus_default_button() { buttons_.back()->setFocus(Qt::OtherFocusReason); }
     // 1 or 0, once it has been answered.
     int answer() const {
         return two_buttons_ && result() != Accepted ? panel_second : panel_default;
@@ -122,7 +124,6 @@ QLayout* panel_dialog::make_buttons(const panel_request& request) {
     first->setProperty("kind", two_buttons_ ? "destructive" : "");
     connect(first, &QPushButton::clicked, this, &QDialog::accept);
     row->addWidget(first);
-    setFocusProxy(first);
     return row;
 }
 
@@ -163,7 +164,7 @@ int run_panel(QWidget* window, input_guard& guard, const panel_request& request)
     scrim.raise();
     guard.open_panel(&panel);
     panel.show();
-    panel.setFocus();
+    panel.focus_default_button();
     QApplication::alert(window);
     QEventLoop loop;
     QObject::connect(&panel, &QDialog::finished, &loop, &QEventLoop::quit);

@@ -13,6 +13,7 @@ tab_view::tab_view(QWidget* parent)
       frame_(new QFrame(this)),
       pages_(new QStackedWidget(this)) {
     frame_->setProperty("role", "box");
+    bar_->setObjectName(QStringLiteral("tabs"));
     bar_->raise();
     bar_->set_request([this](int index) { user_asks_for(index); });
 }

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QPushButton>
-#include <QTabBar>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <string>
@@ -16,11 +15,7 @@
 // The control that has the focus.
 inline std::string focus() {
     const QWidget* focused = QApplication::focusWidget();
-    if (focused == nullptr) {
-        return "nowhere";
-    }
-    const bool tabs = qobject_cast<const QTabBar*>(focused) != nullptr;
-    return tabs ? "tabs" : focused->objectName().toStdString();
+    return focused == nullptr ? "nowhere" : focused->objectName().toStdString();
 }
 
 inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
