@@ -3,12 +3,17 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTreeView>
+#include <algorithm>
+#include <array>
 
 #include "app/controller.h"
 #include "app/controller_box.h"
+#include "app/gated_tab_bar.h"
 #include "app/krview.h"
 #include "app/main_window.h"
 #include "app/placing.h"
+#include "app/radio_matrix.h"
 #include "app/text_field.h"
 #include "app/window_contents.h"
 #include "app/window_extras.h"
@@ -68,6 +73,33 @@ void build_top(controller& window, QWidget* view) {
     }
 }
 
+// What is hidden is passed over, so one order serves both pages and both tabs.
+void set_tab_order(controller& window) {
+    QWidget* before = window.controllerselectbox;
+    const auto then = [&before](QWidget* next) {
+        QWidget::setTabOrder(before, next);
+        before = next;
+    };
+    const std::array<QWidget*, 5> head = {window.refresh_button, window.mainguibutton,
+                                          window.showdiskguibutton,
+                                          window.extras->status.guide_link, window.tabview->bar()};
+    std::for_each(head.begin(), head.end(), then);
+    for (int row = 0; row < radio_matrix::rows; ++row) {
+        then(window.raidconfigradiobutton->button(row));
+    }
+    const std::array<QWidget*, 10> rest = {window.cleardisk0button,
+                                           window.cleardisk1button,
+                                           window.confirmbutton,
+                                           window.clearconfigbutton,
+                                           window.rebuild0to1button,
+                                           window.rebuild1to0button,
+                                           window.tree,
+                                           window.extras->warmbootbutton,
+                                           window.minimizebutton,
+                                           window.closebutton};
+    std::for_each(rest.begin(), rest.end(), then);
+}
+
 } // namespace
 
 void build_window_contents(controller& window) {
@@ -77,9 +109,7 @@ void build_window_contents(controller& window) {
     build_configuration_tab(window, window.configuretab->page);
     build_rebuild_tab(window, window.rebuildtab->page);
     build_information_page(window, window.guitab->widget(1));
-    // The window's own buttons come last in the order of the tab key.
-    QWidget::setTabOrder(window.clearconfigbutton, window.minimizebutton);
-    QWidget::setTabOrder(window.minimizebutton, window.closebutton);
+    set_tab_order(window);
 }
 
 void build_frame(controller& window) {

@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "app/controller_box.h"
+#include "app/focus_memory.h"
+#include "app/gated_tab_bar.h"
 #include "app/krview.h"
 #include "app/main_window.h"
 #include "app/radio_matrix.h"
@@ -43,6 +45,8 @@ controller::controller(const window_parts& parts)
         [this](const tab_item& item) { return tab_gate_.shouldSelectTabViewItem(item); });
     tabview->serve_user_only_while([this] { return idle(); });
     connect_actions();
+    focus_ = std::make_unique<focus_memory>(
+        guard_, std::vector<QWidget*>{tabview->bar(), showdiskguibutton, mainguibutton});
 }
 
 controller::~controller() {

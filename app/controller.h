@@ -25,6 +25,7 @@ class QPushButton;
 class QTreeView;
 class controller_box;
 class copy_keeper;
+class focus_memory;
 class krchip;
 class krview;
 class level_indicator;
@@ -242,6 +243,7 @@ private:
     window_panels own_panels_;
     panel_answers& panels_;
     tabviewdel tab_gate_;
+    std::unique_ptr<focus_memory> focus_;
     std::unique_ptr<tree_model> tree_model_;
     bool exit_remembered_ = false;
     const std::function<copy_pace::time_point()> now_;

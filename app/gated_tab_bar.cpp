@@ -25,6 +25,7 @@ void gated_tab_bar::bring_to_front(int index) {
     const QSignalBlocker quiet(this);
     front_ = index;
     setCurrentIndex(index);
+    window()->update(); // the ring of the focus reaches beyond the bar
 }
 
 void gated_tab_bar::mousePressEvent(QMouseEvent* event) {

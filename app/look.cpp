@@ -4,7 +4,9 @@
 #include <QFile>
 #include <QFont>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
+
+#include "app/focus_ring.h"
 
 namespace {
 
@@ -52,11 +54,40 @@ QFont text_font(const QString& language) {
     return font;
 }
 
+// Fusion, with room for the ring that shows the focus.
+class lumen_style final : public QProxyStyle {
+public:
+    lumen_style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        if (metric == PM_FocusFrameHMargin || metric == PM_FocusFrameVMargin) {
+            return focus_ring::reach;
+        }
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override {
+        if (hint == SH_FocusFrame_AboveWidget) {
+            return 1; // the parents would clip it
+        }
+        if (hint == SH_FocusFrame_Mask) {
+            return 0; // a tab's ring lies within its bar
+        }
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
 } // namespace
 
-void apply_look(QApplication& application, const QString& language) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+void apply_look(QApplication& application) {
+    QApplication::setStyle(new lumen_style);
     QApplication::setPalette(dark_palette());
+    new focus_display(&application);
+}
+
+void apply_language(QApplication& application, const QString& language) {
     QApplication::setFont(text_font(language));
     QFile sheet(QStringLiteral(":/lumen.qss"));
     if (sheet.open(QIODevice::ReadOnly)) {

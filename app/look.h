@@ -4,6 +4,9 @@
 class QApplication;
 class QString;
 
-// The language, as our tables name it, decides which signs Chinese characters have. Interface
-// thread, before the first widget.
-void apply_look(QApplication& application, const QString& language);
+// Style and colours. Interface thread, once, before the first widget.
+void apply_look(QApplication& application);
+
+// Fonts and style sheet for a language as our tables name it, which decides what Chinese characters
+// look like. Interface thread.
+void apply_language(QApplication& application, const QString& language);

@@ -48,7 +48,8 @@ int run(QApplication& application) {
     QTranslator translator;
     const QString language = language_for(QLocale::system().uiLanguages());
     install_language(translator, language);
-    apply_look(application, language);
+    apply_look(application);
+    apply_language(application, language);
     texts.load(translated);
     ui_bridge bridge;
     controller window({bridge, threads, version, copies, static_cast<const treeview&>(*j.tree)});

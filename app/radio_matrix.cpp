@@ -71,6 +71,10 @@ int radio_matrix::selected_row() const {
     return group_.checkedId();
 }
 
+QWidget* radio_matrix::button(int row) const {
+    return group_.button(row);
+}
+
 void radio_matrix::click_row(int row) {
     group_.button(row)->click();
 }

@@ -28,6 +28,7 @@ public:
     void set_in_use(std::optional<int> row);
     // -1: no row.
     int selected_row() const;
+    QWidget* button(int row) const;
     // The user's way of choosing.
     void click_row(int row);
     // Without the delegate; -1 takes the choice away.

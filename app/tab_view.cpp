@@ -14,6 +14,7 @@ tab_view::tab_view(QWidget* parent)
       frame_(new QFrame(this)),
       pages_(new QStackedWidget(this)) {
     frame_->setProperty("role", "box");
+    bar_->setObjectName(QStringLiteral("tabs"));
     bar_->raise();
     bar_->set_request([this](int index) { user_asks_for(index); });
 }
@@ -73,7 +74,11 @@ void tab_view::selectTabViewItem(int index) {
         return;
     }
     bar_->bring_to_front(index);
-    pages_->setCurrentIndex(index);
+    if (index != selected()) {
+        // The focus leaves with the page, before the stack hands it to whatever comes first.
+        pages_->currentWidget()->hide();
+        pages_->setCurrentIndex(index);
+    }
 }
 
 int tab_view::selected() const {

@@ -139,6 +139,30 @@ class Program:
         node = self.find(outlet)
         return node is not None and node.get_state_set().contains(Atspi.StateType.ENABLED)
 
+    def focus(self):
+        """The outlet that has the keyboard; None for a list's row, or anything else without a name."""
+        for node in descend(self.application):
+            if node.get_state_set().contains(Atspi.StateType.FOCUSED):
+                name = re.search(r"\[(\w+)\]$", node.get_description())
+                if name:
+                    return name.group(1)
+                if node.get_role() == Atspi.Role.PAGE_TAB_LIST:
+                    return "tabs"
+        return None
+
+    def await_focus(self, outlet):
+        wait_for(f"the focus on {outlet}, not on {self.focus()}", lambda: self.focus() == outlet)
+
+    def tab_to(self, outlet):
+        """Goes from control to control, as somebody does who has no mouse."""
+        for _ in range(20):
+            before = self.focus()
+            if before == outlet:
+                return
+            self.key("Tab")
+            wait_for(f"the focus to leave {before}", lambda: self.focus() != before)
+        raise Failure(f"the Tab key does not lead to {outlet}")
+
     def press(self, outlet):
         Atspi.Action.do_action(self.widget(outlet), 0)
 
@@ -165,6 +189,10 @@ class Program:
         """The controller list."""
         box = self.find("controllerselectbox")
         return [n.get_name() for n in descend(box) if n.get_role() == Atspi.Role.LIST_ITEM] if box else []
+
+    def list_is_open(self):
+        return any(node.get_role() == Atspi.Role.LIST and node.get_state_set().contains(Atspi.StateType.SHOWING)
+                   for node in descend(self.widget("controllerselectbox")))
 
     def panel(self):
         """The panel in front, or None. Its message is its description."""
@@ -219,6 +247,10 @@ class Program:
     def key(self, name):
         """Presses a key, as the window that has the keyboard gets it."""
         subprocess.run(["xdotool", "key", name], check=True, timeout=30)
+
+    def layout(self, name):
+        """Changes the keyboard's layout."""
+        subprocess.run(["setxkbmap", name], check=True, timeout=30)
 
     def agrees(self, name, words):
         """What the window shows of the selected enclosure is what krenclosure says of it."""

@@ -31,7 +31,8 @@ int main(int argc, char** argv) {
     testing::InitGoogleMock(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    apply_look(application, QStringLiteral("en"));
+    apply_look(application);
+    apply_language(application, QStringLiteral("en"));
 #if defined(__SANITIZE_THREAD__)
     unpainted screen;
     application.installEventFilter(&screen);
