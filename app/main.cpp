@@ -42,6 +42,14 @@ window* ctrller = nullptr;
 
 namespace {
 
+QIcon program_icon() {
+    QIcon icon;
+    for (const char* size : {"16", "32", "64", "128"}) {
+        icon.addFile(QStringLiteral(":/icon/%1.png").arg(QLatin1String(size)));
+    }
+    return icon;
+}
+
 // The program leaves from here with every thread still alive.
 int run(QApplication& application) {
     QTranslator translator;
@@ -66,11 +74,11 @@ int main(int argc, char* argv[]) {
         return 1;
     }
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("kestrelraid"));
+    QApplication::setApplicationName(QStringLiteral("org.kestrelraid.KestrelRaid"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kestrel RAID"));
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.kestrelraid.KestrelRaid"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kestrelraid.png")));
+    QApplication::setWindowIcon(program_icon());
     QApplication::setQuitOnLastWindowClosed(false);
     apply_look(application);
     return run(application);
