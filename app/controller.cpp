@@ -92,9 +92,7 @@ void controller::create_window() {
     mainview->show();
     mainview->setFocus();
     mainwindow->place_from_bottom_left(left, bottom);
-    mainwindow->show();
-    mainwindow->raise();
-    mainwindow->activateWindow();
+    mainwindow->bring_to_front({});
 }
 
 void controller::load_dialog_words() {

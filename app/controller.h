@@ -173,6 +173,8 @@ public:
     void switchguimain();
     void switchguishowdisk();
     void minimizewindow();
+    // Answers no panel and ends no work; `token`: see main_window.
+    void bring_to_front(const std::string& token);
 
     // Device tree.
     void refreshtree() override;

@@ -126,3 +126,7 @@ void controller::show_hot_swap_message() {
 void controller::minimizewindow() {
     mainwindow->showMinimized();
 }
+
+void controller::bring_to_front(const std::string& token) {
+    mainwindow->bring_to_front(token);
+}

@@ -1,14 +1,18 @@
 // The program: the one place that names concrete parts.
 #include <QApplication>
+#include <QDBusConnection>
 #include <QIcon>
 #include <QLocale>
 #include <QTranslator>
 #include <csignal>
 #include <memory>
+#include <string>
 
 #include "app/controller.h"
 #include "app/display.h"
+#include "app/launch_token.h"
 #include "app/look.h"
+#include "app/only_instance.h"
 #include "app/safety_copy.h"
 #include "app/string_table.h"
 #include "app/system_version.h"
@@ -51,12 +55,13 @@ QIcon program_icon() {
 }
 
 // The program leaves from here with every thread still alive.
-int run(QApplication& application) {
+int run(QApplication& application, only_instance& place) {
     QTranslator translator;
     install_language(translator, language_for(QLocale::system().uiLanguages()));
     texts.load(translated);
     ui_bridge bridge;
     controller window({bridge, threads, version, copies, static_cast<const treeview&>(*j.tree)});
+    place.when_activated([&window](const std::string& token) { window.bring_to_front(token); });
     window.awakeFromNib();
     window.applicationDidFinishLaunching();
     const int status = application.exec();
@@ -73,6 +78,7 @@ int main(int argc, char* argv[]) {
                   "which brings a virtual one\n");
         return 1;
     }
+    const std::string token = launch_token();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("org.kestrelraid.KestrelRaid"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kestrel RAID"));
@@ -80,6 +86,10 @@ int main(int argc, char* argv[]) {
     QApplication::setDesktopFileName(QStringLiteral("org.kestrelraid.KestrelRaid"));
     QApplication::setWindowIcon(program_icon());
     QApplication::setQuitOnLastWindowClosed(false);
+    only_instance place(QDBusConnection::sessionBus());
+    if (!place.take_place(token)) {
+        return 0;
+    }
     apply_look(application);
-    return run(application);
+    return run(application, place);
 }
