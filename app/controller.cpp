@@ -8,6 +8,7 @@
 #include "app/controller_box.h"
 #include "app/krview.h"
 #include "app/main_window.h"
+#include "app/panel_notice.h"
 #include "app/radio_matrix.h"
 #include "app/tree_model.h"
 #include "app/treeview.h"
@@ -29,6 +30,7 @@ controller::controller(const window_parts& parts)
       bridge_(parts.bridge),
       system_(parts.system),
       copies_(parts.copies),
+      desktop_(parts.desktop),
       tree_data_(parts.tree),
       runner_(parts.bridge, guard_, parts.workers, [this] { obey_remembered_exit(); }),
       own_panels_(guard_),
@@ -42,6 +44,7 @@ controller::controller(const window_parts& parts)
         [this](const tab_item& item) { return tab_gate_.shouldSelectTabViewItem(item); });
     tabview->serve_user_only_while([this] { return idle(); });
     connect_actions();
+    desktop_.when_opened([this](const std::string& token) { bring_to_front(token); });
 }
 
 controller::~controller() {
@@ -134,7 +137,8 @@ void controller::obey_remembered_exit() {
 
 void controller::show_error_and_exit(const std::string& /*message*/) {
     ui([this] {
-        panels_.ask({panel_kind::error, localised("error"), localised("error"), {localised("ok")}});
+        tell({panel_kind::error, localised("error"), localised("error"), {localised("ok")}},
+             urgency::critical);
         j.with.exit.leave(status_fatal);
     });
 }
@@ -149,7 +153,7 @@ void controller::as_body(const std::function<void()>& body) {
     }
 }
 
-void controller::inform(const std::string& title, const std::string& message) {
+void controller::inform(const std::string& title, const std::string& message, urgency how) {
     ui([&] {
         if (exit_remembered_) {
             obey_remembered_exit();
@@ -157,9 +161,20 @@ void controller::inform(const std::string& title, const std::string& message) {
         }
         // Panels may come before the dialog words have been loaded.
         const std::string ok = s_ok.empty() ? localised("ok") : s_ok;
-        panels_.ask({panel_kind::attention, title, message, {ok}});
+        tell({panel_kind::attention, title, message, {ok}}, how);
         obey_remembered_exit();
     });
+}
+
+// Messages only: a question belongs to what the user does in the window.
+void controller::tell(const panel_request& message, urgency how) {
+    const QString enclosure = controllerselectbox->currentText();
+    const std::string text =
+        enclosure.isEmpty() ? message.message : message.message + "\n" + enclosure.toStdString();
+    const panel_notice outside(
+        desktop_, mainwindow,
+        {message.title, text, localised("ui_open_window"), how == urgency::critical});
+    panels_.ask(message);
 }
 
 std::string controller::localised(const char* key) const {

@@ -116,7 +116,7 @@ void controller::updatepoll(std::uint64_t end, std::uint64_t currlba, bool diskp
 }
 
 void controller::show_message(const std::string& text) {
-    ui([&] { inform(s_attention, text); });
+    ui([&] { inform(s_attention, text, urgency::normal); });
 }
 
 void controller::show_hot_swap_message() {

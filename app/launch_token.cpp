@@ -18,7 +18,7 @@ std::string launch_token() {
 // The toolkit's part for Wayland looks for it in the environment, and takes it away again. Others
 // have no use for it, and would hand it on to whatever the program starts.
 void use_launch_token(const std::string& token) {
-    if (!token.empty() && QGuiApplication::platformName() == QLatin1String("wayland")) {
+    if (!token.empty() && QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
         qputenv(wayland_token, QByteArray::fromStdString(token));
     }
 }

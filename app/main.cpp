@@ -9,6 +9,7 @@
 #include <string>
 
 #include "app/controller.h"
+#include "app/desktop_notices.h"
 #include "app/display.h"
 #include "app/launch_token.h"
 #include "app/look.h"
@@ -60,7 +61,9 @@ int run(QApplication& application, only_instance& place) {
     install_language(translator, language_for(QLocale::system().uiLanguages()));
     texts.load(translated);
     ui_bridge bridge;
-    controller window({bridge, threads, version, copies, static_cast<const treeview&>(*j.tree)});
+    desktop_notices desktop(QDBusConnection::sessionBus());
+    controller window(
+        {bridge, threads, version, copies, desktop, static_cast<const treeview&>(*j.tree)});
     place.when_activated([&window](const std::string& token) { window.bring_to_front(token); });
     window.awakeFromNib();
     window.applicationDidFinishLaunching();

@@ -20,6 +20,10 @@ void main_window::place_from_bottom_left(int x, int y) {
     move(area.left() + x, qMax(area.bottom() + 1 - y - height(), usable.top()));
 }
 
+bool main_window::in_front() const {
+    return isActiveWindow() && !isMinimized();
+}
+
 void main_window::bring_to_front(const std::string& token) {
     use_launch_token(token);
     setWindowState(windowState() & ~Qt::WindowMinimized);

@@ -18,6 +18,8 @@ public:
     // choose.
     void place_from_bottom_left(int x, int y);
 
+    // Whether the user works with it now, so that what comes up in it is seen.
+    bool in_front() const;
     // Shows it, minimised or not, over others and with the keyboard, as far as the desktop lets
     // it; `token` is the desktop's leave, or empty.
     void bring_to_front(const std::string& token);

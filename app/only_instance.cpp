@@ -25,7 +25,8 @@ only_instance::only_instance(const QDBusConnection& bus) : bus_(bus) {
 
 bool only_instance::take_place(const std::string& token) {
     if (!bus_.isConnected()) {
-        print_err("kestrelraid: no session bus: a second start opens a second window\n");
+        print_err("kestrelraid: no session bus: a second start opens a second window, and the "
+                  "desktop is not notified\n");
         return true;
     }
     if (claim()) {

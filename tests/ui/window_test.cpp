@@ -40,7 +40,7 @@ void window_test::TearDown() {
 
 std::unique_ptr<controller> window_test::new_window(panel_answers* answers) {
     return std::make_unique<controller>(
-        window_parts{test_bridge(), workers, version, copies, tree_data, answers});
+        window_parts{test_bridge(), workers, version, copies, desktop, tree_data, answers});
 }
 
 lines window_test::take_outlets() {
