@@ -10,6 +10,7 @@
 #include "app/gated_tab_bar.h"
 #include "app/krview.h"
 #include "app/main_window.h"
+#include "app/panel_notice.h"
 #include "app/radio_matrix.h"
 #include "app/tree_model.h"
 #include "app/treeview.h"
@@ -31,6 +32,7 @@ controller::controller(const window_parts& parts)
       bridge_(parts.bridge),
       system_(parts.system),
       copies_(parts.copies),
+      desktop_(parts.desktop),
       tree_data_(parts.tree),
       runner_(parts.bridge, guard_, parts.workers, [this] { obey_remembered_exit(); }),
       own_panels_(guard_),
@@ -47,6 +49,7 @@ controller::controller(const window_parts& parts)
     connect_actions();
     focus_ = std::make_unique<focus_memory>(
         guard_, std::vector<QWidget*>{tabview->bar(), showdiskguibutton, mainguibutton});
+    desktop_.when_opened([this](const std::string& token) { bring_to_front(token); });
 }
 
 controller::~controller() {
@@ -97,9 +100,7 @@ void controller::create_window() {
     mainview->show();
     mainview->setFocus();
     mainwindow->place_from_bottom_left(left, bottom);
-    mainwindow->show();
-    mainwindow->raise();
-    mainwindow->activateWindow();
+    mainwindow->bring_to_front({});
 }
 
 void controller::load_dialog_words() {
@@ -141,7 +142,8 @@ void controller::obey_remembered_exit() {
 
 void controller::show_error_and_exit(const std::string& /*message*/) {
     ui([this] {
-        panels_.ask({panel_kind::error, localised("error"), localised("error"), {localised("ok")}});
+        tell({panel_kind::error, localised("error"), localised("error"), {localised("ok")}},
+             urgency::critical);
         j.with.exit.leave(status_fatal);
     });
 }
@@ -156,7 +158,7 @@ void controller::as_body(const std::function<void()>& body) {
     }
 }
 
-void controller::inform(const std::string& title, const std::string& message) {
+void controller::inform(const std::string& title, const std::string& message, urgency how) {
     ui([&] {
         if (exit_remembered_) {
             obey_remembered_exit();
@@ -164,9 +166,20 @@ void controller::inform(const std::string& title, const std::string& message) {
         }
         // Panels may come before the dialog words have been loaded.
         const std::string ok = s_ok.empty() ? localised("ok") : s_ok;
-        panels_.ask({panel_kind::attention, title, message, {ok}});
+        tell({panel_kind::attention, title, message, {ok}}, how);
         obey_remembered_exit();
     });
+}
+
+// Messages only: a question belongs to what the user does in the window.
+void controller::tell(const panel_request& message, urgency how) {
+    const QString enclosure = controllerselectbox->currentText();
+    const std::string text =
+        enclosure.isEmpty() ? message.message : message.message + "\n" + enclosure.toStdString();
+    const panel_notice outside(
+        desktop_, mainwindow,
+        {message.title, text, localised("ui_open_window"), how == urgency::critical});
+    panels_.ask(message);
 }
 
 std::string controller::localised(const char* key) const {

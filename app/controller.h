@@ -30,6 +30,7 @@ class krchip;
 class krview;
 class level_indicator;
 class main_window;
+class notices;
 class radio_matrix;
 class text_field;
 class titled_box;
@@ -47,6 +48,7 @@ struct window_parts {
     thread_starter& workers; // for what the interface thread must not do itself
     version_query& system;
     copy_keeper& copies;             // of the records, before they are changed
+    notices& desktop;                // where messages are told while the window is out of sight
     const treeview& tree;            // the data of the device tree; the records lock guards it
     panel_answers* panels = nullptr; // none: the user answers
     std::function<copy_pace::time_point()> now = std::chrono::steady_clock::now;
@@ -180,6 +182,8 @@ public:
     void minimizewindow();
     // What to do when a disk has failed. Returns when the guide is closed.
     void show_guide();
+    // Answers no panel and ends no work; `token`: see main_window.
+    void bring_to_front(const std::string& token);
 
     // Device tree.
     void refreshtree() override;
@@ -191,6 +195,9 @@ public:
 private:
     struct disk_outlets;
 
+    // Of a message that is told on the desktop as well.
+    enum class urgency { normal, critical };
+
     // What became of a change; dropped: what the window shows is no longer what was confirmed;
     // outdated: nothing was done, and the bridges have to be read again.
     enum class outcome { dropped, outdated, done, failed };
@@ -200,7 +207,8 @@ private:
     // Connects a button to an action that is carried out only while the window is idle.
     void on_click(QPushButton* button, std::function<void()> action);
     void connect_actions();
-    void inform(const std::string& title, const std::string& message);
+    void inform(const std::string& title, const std::string& message, urgency how);
+    void tell(const panel_request& message, urgency how);
     std::string localised(const char* key) const;
     void create_window();
     void load_dialog_words();
@@ -237,6 +245,7 @@ private:
     ui_bridge& bridge_;
     version_query& system_;
     copy_keeper& copies_;
+    notices& desktop_;
     const treeview& tree_data_;
     input_guard guard_;
     body_runner runner_;

@@ -125,7 +125,7 @@ void controller::updatepoll(std::uint64_t end, std::uint64_t currlba, bool diskp
 }
 
 void controller::show_message(const std::string& text) {
-    ui([&] { inform(s_attention, text); });
+    ui([&] { inform(s_attention, text, urgency::normal); });
 }
 
 void controller::show_hot_swap_message() {
@@ -139,4 +139,8 @@ void controller::show_guide() {
 
 void controller::minimizewindow() {
     mainwindow->showMinimized();
+}
+
+void controller::bring_to_front(const std::string& token) {
+    mainwindow->bring_to_front(token);
 }

@@ -185,7 +185,7 @@ bool controller::goes_on_without_copy(const std::string& trouble) {
 }
 
 void controller::report(const char* error) {
-    panels_.ask({panel_kind::error, s_error, localised(error), {s_ok}});
+    tell({panel_kind::error, s_error, localised(error), {s_ok}}, urgency::critical);
     obey_remembered_exit();
 }
 

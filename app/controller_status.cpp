@@ -207,7 +207,7 @@ void controller::show_alerts(const view_state& view, chip_place place) {
     for (const std::string& message : view.alerts) {
         const gate_pause others_may_work(j.gate);
         if (j.current_place() == place) {
-            inform(view.alert_title, message);
+            inform(view.alert_title, message, urgency::critical);
         }
     }
 }

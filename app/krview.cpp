@@ -1,5 +1,6 @@
 #include "app/krview.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
@@ -64,8 +65,26 @@ void krview::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void krview::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        pressed_at_ = event->globalPosition().toPoint();
+    }
+}
+
+// Not at the press: a desktop that hears of the move after the release lets the window hang on the
+// mouse.
+void krview::mouseMoveEvent(QMouseEvent* event) {
     QWindow* handle = window()->windowHandle();
-    if (event->button() == Qt::LeftButton && handle != nullptr) {
+    if (!pressed_at_ || !event->buttons().testFlag(Qt::LeftButton) || handle == nullptr) {
+        return;
+    }
+    const QPoint way = event->globalPosition().toPoint() - *pressed_at_;
+    if (way.manhattanLength() >= QApplication::startDragDistance()) {
+        pressed_at_.reset();
         handle->startSystemMove();
     }
+}
+
+// A button that the mouse is pulled off hands the moves on to here as well.
+void krview::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    pressed_at_.reset();
 }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QPixmap>
+#include <QPoint>
 #include <QWidget>
+#include <optional>
 
 // Paints the window's picture; what is no control on it moves the window. Interface thread.
 class krview final : public QWidget {
@@ -18,7 +20,10 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     QPixmap back;
+    std::optional<QPoint> pressed_at_; // on the screen, until the move begins
 };

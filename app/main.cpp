@@ -1,14 +1,19 @@
 // The program: the one place that names concrete parts.
 #include <QApplication>
+#include <QDBusConnection>
 #include <QIcon>
 #include <QLocale>
 #include <QTranslator>
 #include <csignal>
 #include <memory>
+#include <string>
 
 #include "app/controller.h"
+#include "app/desktop_notices.h"
 #include "app/display.h"
+#include "app/launch_token.h"
 #include "app/look.h"
+#include "app/only_instance.h"
 #include "app/outlet_names.h"
 #include "app/safety_copy.h"
 #include "app/string_table.h"
@@ -43,8 +48,16 @@ window* ctrller = nullptr;
 
 namespace {
 
+QIcon program_icon() {
+    QIcon icon;
+    for (const char* size : {"16", "32", "64", "128"}) {
+        icon.addFile(QStringLiteral(":/icon/%1.png").arg(QLatin1String(size)));
+    }
+    return icon;
+}
+
 // The program leaves from here with every thread still alive.
-int run(QApplication& application) {
+int run(QApplication& application, only_instance& place) {
     QTranslator translator;
     const QString language = language_for(QLocale::system().uiLanguages());
     install_language(translator, language);
@@ -52,7 +65,10 @@ int run(QApplication& application) {
     apply_language(application, language);
     texts.load(translated);
     ui_bridge bridge;
-    controller window({bridge, threads, version, copies, static_cast<const treeview&>(*j.tree)});
+    desktop_notices desktop(QDBusConnection::sessionBus());
+    controller window(
+        {bridge, threads, version, copies, desktop, static_cast<const treeview&>(*j.tree)});
+    place.when_activated([&window](const std::string& token) { window.bring_to_front(token); });
     window.awakeFromNib();
     window.applicationDidFinishLaunching();
     const int status = application.exec();
@@ -69,15 +85,20 @@ int main(int argc, char* argv[]) {
                   "which brings a virtual one\n");
         return 1;
     }
+    const std::string token = launch_token();
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("kestrelraid"));
+    QApplication::setApplicationName(QStringLiteral("org.kestrelraid.KestrelRaid"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kestrel RAID"));
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.kestrelraid.KestrelRaid"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kestrelraid.png")));
+    QApplication::setWindowIcon(program_icon());
     QApplication::setQuitOnLastWindowClosed(false);
+    only_instance place(QDBusConnection::sessionBus());
+    if (!place.take_place(token)) {
+        return 0;
+    }
 #ifdef KESTREL_SHOWS_OUTLET_NAMES
     const outlet_names names;
 #endif
-    return run(application);
+    return run(application, place);
 }

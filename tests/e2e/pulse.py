@@ -10,7 +10,8 @@ import select
 import threading
 import time
 
-from Xlib import X, Xatom, display
+from windows import window_of
+from Xlib import X, display
 from Xlib.protocol import event
 
 PAUSE = 0.005  # seconds between an answer and the next question
@@ -25,10 +26,9 @@ class Pulse:
         self.root = self.display.screen().root
         # The answer is sent to the root window; toolkits differ in which of the two may hear it.
         self.root.change_attributes(event_mask=X.SubstructureNotifyMask | X.StructureNotifyMask)
-        self.protocols, self.ping, self.clients, self.owner = (
-            self.display.intern_atom(name)
-            for name in ("WM_PROTOCOLS", "_NET_WM_PING", "_NET_CLIENT_LIST", "_NET_WM_PID"))
-        self.window = self._window_of(process_id)
+        self.protocols, self.ping = (
+            self.display.intern_atom(name) for name in ("WM_PROTOCOLS", "_NET_WM_PING"))
+        self.window = self.display.create_resource_object("window", window_of(process_id).id)
         self.own = self.root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
         self.scheduling = f"/proc/{process_id}/task/{process_id}/schedstat"
         self.asked = 0
@@ -38,13 +38,6 @@ class Pulse:
         self.hangs = False
         self.stopping = threading.Event()
         self.thread = threading.Thread(target=self._run, daemon=True)
-
-    def _window_of(self, process_id):
-        for client in self.root.get_full_property(self.clients, Xatom.WINDOW).value:
-            window = self.display.create_resource_object("window", client)
-            if window.get_full_property(self.owner, Xatom.CARDINAL).value[0] == process_id:
-                return window
-        raise LookupError(f"process {process_id} has no window")
 
     def start(self):
         self.thread.start()

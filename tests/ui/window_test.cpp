@@ -44,7 +44,8 @@ void window_test::TearDown() {
 
 std::unique_ptr<controller> window_test::new_window(panel_answers* answers) {
     return std::make_unique<controller>(window_parts{test_bridge(), workers, version, copies,
-                                                     tree_data, answers, [this] { return time; }});
+                                                     desktop, tree_data, answers,
+                                                     [this] { return time; }});
 }
 
 lines window_test::take_outlets() {

@@ -11,6 +11,7 @@
 #include "app/treeview.h"
 #include "model/system_services.h"
 #include "tests/support/fixture.h"
+#include "tests/ui/recording_notices.h"
 #include "tests/ui/scripted_copies.h"
 #include "tests/ui/scripted_panels.h"
 
@@ -55,6 +56,7 @@ protected:
     scripted_version version;
     scripted_panels panels{world().log};
     scripted_copies copies{world().log};
+    recording_notices desktop;
     treeview tree_data{world().texts};
     std::unique_ptr<controller> window;
     lines outlet_log;

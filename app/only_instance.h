@@ -1,0 +1,50 @@
+// One program per session.
+#pragma once
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QObject>
+#include <QVariantMap>
+#include <functional>
+#include <string>
+
+// The program's place on the session bus, which one at a time can have. Interface thread.
+class only_instance final : public QObject {
+public:
+    explicit only_instance(const QDBusConnection& bus);
+
+    // Takes the place. False: another program has it and was asked to show its window, with the
+    // token of this start (see launch_token.h). Waits up to 5 seconds for it, and says on standard
+    // error when it does not answer. Where a place cannot be had, for want of a session bus or
+    // because the bus gives nobody the name, every start may go on; the former is said as well.
+    bool take_place(const std::string& token);
+
+    // `activated` is called when a later start asks for the window, with that start's token.
+    void when_activated(std::function<void(const std::string& token)> activated);
+
+private:
+    bool claim();
+    bool activate_other(const std::string& token);
+    bool other_is_there();
+
+    QDBusConnection bus_;
+    std::function<void(const std::string& token)> activated_;
+
+    friend class application_object;
+};
+
+// org.freedesktop.Application, as far as a program without files and actions needs it.
+class application_object final : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit application_object(only_instance& owner)
+        : QDBusAbstractAdaptor(&owner), owner_(owner) {}
+
+public Q_SLOTS:
+    void Activate(const QVariantMap& platform_data);
+
+private:
+    only_instance& owner_;
+};

@@ -1,0 +1,58 @@
+"""What is installed works from where it lies, and has its place in menus and task lists."""
+
+import configparser
+import os
+import subprocess
+import tempfile
+
+from kestrel import BUILD, check, run
+
+NAME = "org.kestrelraid.KestrelRaid"
+folder = tempfile.TemporaryDirectory()
+ROOT = folder.name
+
+
+def it_can_be_installed_anywhere():
+    subprocess.run(["cmake", "--install", BUILD, "--prefix", ROOT], check=True, capture_output=True, timeout=60)
+
+
+def the_program_starts_with_an_access_library():
+    process = subprocess.Popen([f"{ROOT}/bin/kestrelraid"], stdout=subprocess.DEVNULL, stderr=subprocess.PIPE,
+                               text=True, env=dict(os.environ, QT_QPA_PLATFORM="offscreen"))
+    try:
+        check("it listens", any("Starting run loop" in line for line in process.stderr), True)
+    finally:
+        process.kill()
+        process.communicate()
+
+
+def a_makers_library_goes_before_the_bundled_one():
+    header = subprocess.run(["readelf", "-d", f"{ROOT}/bin/kestrelraid"], capture_output=True, text=True,
+                            check=True, timeout=30).stdout
+    check("folders", "[/usr/local/lib:$ORIGIN/../lib/kestrelraid]" in header, True)
+    check("bundled", os.path.exists(f"{ROOT}/lib/kestrelraid/libkrraid.so"), True)
+    check("mistaken for a maker's", os.path.exists(f"{ROOT}/lib/libkrraid.so"), False)
+
+
+def the_menu_entry_is_valid():
+    path = f"{ROOT}/share/applications/{NAME}.desktop"
+    told = subprocess.run(["desktop-file-validate", path], capture_output=True, text=True, timeout=30)
+    check("complaints", told.stdout + told.stderr, "")
+    entry = configparser.ConfigParser(interpolation=None)
+    entry.read(path, encoding="utf-8")
+    check("program", os.access(f"{ROOT}/bin/{entry['Desktop Entry']['Exec']}", os.X_OK), True)
+    check("names", (entry["Desktop Entry"]["Icon"], entry["Desktop Entry"]["StartupWMClass"]), (NAME, NAME))
+
+
+def its_icon_has_all_sizes():
+    icons = os.path.join(ROOT, "share", "icons", "hicolor")
+    sizes = [f"{size}x{size}" for size in (16, 24, 32, 48, 64, 128, 256)]
+    check("sizes", sorted(os.listdir(icons)), sorted([*sizes, "scalable"]))
+    for size in sizes:
+        told = subprocess.run(["identify", "-format", "%wx%h", f"{icons}/{size}/apps/{NAME}.png"],
+                              capture_output=True, text=True, check=True, timeout=30)
+        check("pixels", told.stdout, size)
+
+
+run(it_can_be_installed_anywhere, the_program_starts_with_an_access_library,
+    a_makers_library_goes_before_the_bundled_one, the_menu_entry_is_valid, its_icon_has_all_sizes)
