@@ -148,7 +148,6 @@ QLayout* guide_dialog::make_foot() {
     close->setAccessibleName(localised("ui_close"));
     close->setMinimumSize(least_button);
     close->setDefault(true);
-    setFocusProxy(close);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     row->addWidget(close, 0, Qt::AlignBottom);
     return row;

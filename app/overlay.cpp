@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QPainter>
 #include <QPointer>
+#include <QPushButton>
 #include <QStyle>
 #include <QVariantAnimation>
 
@@ -49,6 +50,16 @@ private:
     double darkness_ = 1.0;
 };
 
+// Where a screen reader starts: it reads the dialog around the button first. A focus proxy of the
+// dialog would have it say that both have the focus.
+void focus_default_button(const QDialog& dialog) {
+    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+        if (button->isDefault()) {
+            button->setFocus(Qt::OtherFocusReason);
+        }
+    }
+}
+
 } // namespace
 
 int run_over(QWidget* window, input_guard& guard,
@@ -62,7 +73,7 @@ int run_over(QWidget* window, input_guard& guard,
     shade.raise();
     guard.open_panel(dialog);
     dialog->show();
-    dialog->setFocus();
+    focus_default_button(*dialog);
     QEventLoop loop;
     QObject::connect(dialog, &QDialog::finished, &loop, &QEventLoop::quit);
     loop.exec();

@@ -85,8 +85,6 @@ panel_dialog::panel_dialog(QWidget* parent, const panel_request& request)
         inner->addSpacing(plan_distance);
     }
     inner->addLayout(make_buttons(request));
-    // Where a screen reader starts: it reads the panel around the button first.
-    setFocusProxy(buttons_.back());
     const QSize least = request.plan ? least_size_with_plan : least_size;
     setFixedSize(least.width(), qMax(least.height(), outer->heightForWidth(least.width())));
 }
