@@ -10,6 +10,7 @@
 #include "app/gated_tab_bar.h"
 #include "app/krview.h"
 #include "app/main_window.h"
+#include "app/plain_text.h"
 #include "app/radio_matrix.h"
 #include "app/tree_model.h"
 #include "app/treeview.h"
@@ -81,6 +82,7 @@ void controller::applicationDidFinishLaunching() {
         show_error_and_exit("Error creating device notification thread");
         return;
     }
+    tree_model_->set_heading(one_line(localised("ui_devices")));
     tree->setModel(tree_model_.get());
     load_dialog_words();
 }

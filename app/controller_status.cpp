@@ -3,13 +3,33 @@
 #include <QTreeView>
 #include <array>
 
+#include "app/announcement.h"
 #include "app/controller.h"
 #include "app/krview.h"
 #include "app/level_indicator.h"
+#include "app/plain_text.h"
 #include "app/scene.h"
 #include "app/text_field.h"
 #include "model/krtool.h"
 #include "model/monitors.h"
+
+namespace {
+
+// For those who hear the window.
+std::string state_in_words(const view_state& view) {
+    if (view.raid_valid) {
+        return view.raidmodelabel;
+    }
+    std::string words;
+    for (const disk_view& disk : view.disks) {
+        if (disk.present) {
+            words += (words.empty() ? "" : ", ") + disk.label + ": " + disk.modefield;
+        }
+    }
+    return words;
+}
+
+} // namespace
 
 struct controller::disk_outlets {
     text_field* modelfield;
@@ -123,8 +143,10 @@ void controller::show_status() {
         disablegui(false);
         if (!view.blank) {
             apply(view);
+            announce(mainview, one_line(state_in_words(view)));
         } else if (!j.has_chips()) {
             show_empty_scene(*this);
+            announce(mainview, one_line(localised("ui_no_enclosure")));
         }
     });
     if (view.blank) {

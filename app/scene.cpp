@@ -122,7 +122,7 @@ void caption_extras(controller& window) {
     window.cleardisk1button->setAccessibleName(localised("ui_clear_disk_2"));
     window.minimizebutton->setAccessibleName(localised("ui_minimise"));
     window.closebutton->setAccessibleName(localised("ui_close"));
-    window.controllerselectbox->setAccessibleName(localised("ui_controllers"));
+    window.controllerselectbox->set_name(localised("ui_controllers"));
     window.workingindicator->setAccessibleName(localised("ui_working"));
     show_restart_target(window, "");
     extras.devices_box->set_title(localised("ui_devices"));
