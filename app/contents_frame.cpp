@@ -14,9 +14,11 @@
 #include "app/main_window.h"
 #include "app/placing.h"
 #include "app/radio_matrix.h"
+#include "app/spoken_parts.h"
 #include "app/text_field.h"
 #include "app/window_contents.h"
 #include "app/window_extras.h"
+#include "app/window_names.h"
 #include "app/working_indicator.h"
 
 namespace {
@@ -43,6 +45,7 @@ void build_rail(controller& window, QWidget* view) {
     auto* name = with_role(make<text_field>(view, QRect(4, 46, 112, 16)), "programname");
     name->setAlignment(Qt::AlignCenter);
     name->set_value(QStringLiteral("Kestrel RAID"));
+    tell_picture(icon, {});
 
     constexpr QSize plate(96, 96);
     window.mainguibutton =
@@ -103,6 +106,7 @@ void set_tab_order(controller& window) {
 } // namespace
 
 void build_window_contents(controller& window) {
+    install_spoken_parts();
     build_frame(window);
     QWidget* status = window.guitab->widget(0);
     build_status_page(window, status);
@@ -110,6 +114,7 @@ void build_window_contents(controller& window) {
     build_rebuild_tab(window, window.rebuildtab->page);
     build_information_page(window, window.guitab->widget(1));
     set_tab_order(window);
+    tell_pictures(window);
 }
 
 void build_frame(controller& window) {

@@ -9,6 +9,7 @@
 
 #include "app/controller.h"
 #include "app/placing.h"
+#include "app/spoken_parts.h"
 #include "app/text_field.h"
 #include "app/titled_box.h"
 #include "app/window_contents.h"
@@ -50,6 +51,7 @@ void build_card(QWidget* page, int port, const card_outlets& outlets) {
     picture->setPixmap(QIcon(QStringLiteral(":/disk.png")).pixmap(45, 52));
     *outlets.heading =
         with_role(make<text_field>(page, outlets.names[0], at(QRect(208, 90, 216, 22))), "caption");
+    tell_picture(picture, {*outlets.heading});
     *outlets.model = caption_field(page, outlets.names[1], at(QRect(208, 114, 216, 36)));
     with_role(make<QFrame>(page, at(QRect(148, 158, 276, 1))), "hairline");
     for (std::size_t row = 0; row < outlets.captions.size(); ++row) {

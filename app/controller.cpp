@@ -11,6 +11,7 @@
 #include "app/krview.h"
 #include "app/main_window.h"
 #include "app/panel_notice.h"
+#include "app/plain_text.h"
 #include "app/radio_matrix.h"
 #include "app/tree_model.h"
 #include "app/treeview.h"
@@ -85,6 +86,7 @@ void controller::applicationDidFinishLaunching() {
         show_error_and_exit("Error creating device notification thread");
         return;
     }
+    tree_model_->set_heading(one_line(localised("ui_devices")));
     tree->setModel(tree_model_.get());
     load_dialog_words();
 }

@@ -1,6 +1,7 @@
 #include "app/controller_box.h"
 
 #include <QAbstractItemView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QSignalBlocker>
@@ -11,7 +12,9 @@
 
 #include "app/action_tip.h"
 
-controller_box::controller_box(QWidget* parent) : QComboBox(parent) {
+controller_box::controller_box(QWidget* parent) : QComboBox(parent), caption_(new QLabel(parent)) {
+    caption_->setBuddy(this);
+    caption_->hide();
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
@@ -26,6 +29,14 @@ controller_box::controller_box(QWidget* parent) : QComboBox(parent) {
             chosen_();
         }
     });
+}
+
+// The toolkit takes a box's text for its name, and has a label say what it is.
+void controller_box::set_name(const QString& name) {
+    setAccessibleName(name);
+    caption_->setText(name);
+    lineEdit()->setAccessibleName(name);
+    view()->setAccessibleName(name);
 }
 
 void controller_box::set_delegate(std::function<void()> chosen) {

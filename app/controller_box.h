@@ -7,12 +7,16 @@
 
 #include "util/library.h"
 
+class QLabel;
+
 // Its text is not its selection: the text outlives the entries. Nothing is ever selected but by
 // the user or by select(). Interface thread.
 class controller_box final : public QComboBox {
 public:
     explicit controller_box(QWidget* parent);
 
+    // What it is a list of.
+    void set_name(const QString& name);
     // Is called when the user has chosen an entry.
     void set_delegate(std::function<void()> chosen);
     void remove_all();
@@ -41,6 +45,7 @@ protected:
 private:
     int entry_of(const controller_t& identity) const;
 
+    QLabel* caption_; // never seen
     std::vector<controller_t> identities_;
     std::function<void()> chosen_;
 };

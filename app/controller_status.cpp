@@ -3,14 +3,26 @@
 #include <QTreeView>
 #include <array>
 
+#include "app/announcement.h"
 #include "app/controller.h"
 #include "app/krview.h"
 #include "app/level_indicator.h"
 #include "app/outlook.h"
+#include "app/plain_text.h"
 #include "app/scene.h"
 #include "app/text_field.h"
 #include "model/krtool.h"
 #include "model/monitors.h"
+
+namespace {
+
+// For those who hear the window.
+std::string state_in_words(const view_state& view, const outlook& now) {
+    const std::string array = view.raid_valid ? view.raidmodelabel + ": " : "";
+    return array + now.word + ". " + now.advice;
+}
+
+} // namespace
 
 struct controller::disk_outlets {
     text_field* modelfield;
@@ -124,9 +136,12 @@ void controller::show_status() {
         cleargui();
         disablegui(false);
         if (!view.blank) {
-            apply(view, outlook_of(current->chip, decimal_units, j.with.texts));
+            const outlook now = outlook_of(current->chip, decimal_units, j.with.texts);
+            apply(view, now);
+            announce(mainview, one_line(state_in_words(view, now)));
         } else if (!j.has_chips()) {
             show_empty_scene(*this);
+            announce(mainview, one_line(localised("ui_no_enclosure")));
         }
     });
     if (view.blank) {

@@ -3,6 +3,7 @@
 #include <QIcon>
 
 #include "app/placing.h"
+#include "app/spoken_parts.h"
 #include "app/text_field.h"
 
 QLabel* wrapped_text(const QString& text, const char* role, const char* tone) {
@@ -26,6 +27,7 @@ QLabel* panel_picture(const char* name, int width, int height) {
     const QSize size(width, height);
     auto* label = new QLabel;
     label->setFixedSize(size);
+    tell_picture(label, {}); // the words beside it say it
     label->setPixmap(QIcon(QStringLiteral(":/%1.png").arg(QLatin1String(name))).pixmap(size));
     return label;
 }

@@ -10,6 +10,7 @@
 #include <array>
 #include <utility>
 
+#include "app/spoken_parts.h"
 #include "app/text_field.h"
 
 namespace {
@@ -119,6 +120,7 @@ radio_matrix::row_widgets radio_matrix::make_row(int row) {
     auto* glyph = new QLabel(frame);
     glyph->setPixmap(QIcon(QLatin1String(glyphs[static_cast<std::size_t>(row)])).pixmap(40, 24));
     glyph->setGeometry(40, 11, 40, 24);
+    tell_picture(glyph, {});
     auto* name = new text_field(frame);
     name->setProperty("role", "rowname");
     name->setGeometry(90, 4, 290, 20);

@@ -38,7 +38,7 @@ void caption_frame(controller& window) {
     window.showdiskguibutton->setAccessibleName(localised("ui_system_information"));
     window.minimizebutton->setAccessibleName(localised("ui_minimise"));
     window.closebutton->setAccessibleName(localised("ui_close"));
-    window.controllerselectbox->setAccessibleName(localised("ui_controllers"));
+    window.controllerselectbox->set_name(localised("ui_controllers"));
     window.controllerselectbox->set_placeholder(localised("ui_no_enclosure"));
     window.workingindicator->setAccessibleName(localised("ui_working"));
     mark_page_caption(window, 0);

@@ -93,6 +93,11 @@ QVariant tree_model::data(const QModelIndex& index, int role) const {
     }
 }
 
+QVariant tree_model::headerData(int section, Qt::Orientation orientation, int role) const {
+    const bool heading = orientation == Qt::Horizontal && section == 0 && role == Qt::DisplayRole;
+    return heading ? QVariant(heading_) : QVariant();
+}
+
 const tree_node* tree_model::node_at(const QModelIndex& index) const {
     return index.isValid() ? entries_[index.internalId()].node : nullptr;
 }

@@ -15,11 +15,15 @@ public:
     // Shows this in place of what was shown; none shows nothing.
     void set_data_source(std::unique_ptr<const treeview> source);
 
+    // The heading of the only column.
+    void set_heading(const QString& heading) { heading_ = heading; }
+
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
     // A node of the copy, with the way back to the root (parent -1).
@@ -35,4 +39,5 @@ private:
 
     std::unique_ptr<const treeview> shown_;
     std::vector<entry> entries_;
+    QString heading_;
 };

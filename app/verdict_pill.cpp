@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "app/placing.h"
+#include "app/spoken_parts.h"
 #include "app/styling.h"
 #include "app/text_field.h"
 
@@ -26,6 +27,7 @@ verdict_pill::verdict_pill(QWidget* parent)
     : QFrame(parent), icon_(new QLabel(this)), word_(new text_field(this)) {
     with_role(this, "pill");
     icon_->setGeometry(left, (height_of_pill - icon_size) / 2, icon_size, icon_size);
+    tell_picture(icon_, {}); // the word says it
     word_->setObjectName(QStringLiteral("verdict"));
 }
 

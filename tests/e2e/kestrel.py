@@ -90,13 +90,15 @@ def description(node):
 class Program:
     """A running kestrelraid."""
 
-    def __init__(self, language="C.UTF-8", scale=None):
+    def __init__(self, language="C.UTF-8", scale=None, name="kestrelraid-emulated"):
         environment = dict(os.environ, LANG=language, LC_ALL=language, LANGUAGE=language.split("_")[0])
+        # Whatever is installed, no test reaches for another library than the bundled one.
+        environment["LD_LIBRARY_PATH"] = f"{BUILD}/lib"
         self.scale = scale or 1
         if scale:
             environment["QT_SCALE_FACTOR"] = str(scale)
         self.process = subprocess.Popen(
-            [f"{BUILD}/bin/kestrelraid-emulated"], env=environment,
+            [f"{BUILD}/bin/{name}"], env=environment,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
         self.application = wait_for("the program on the accessibility bus", self._find)
 
