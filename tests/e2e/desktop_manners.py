@@ -106,8 +106,13 @@ def a_second_start_hands_the_launchers_token_on():
     first.close()
 
 
-def a_task_list_knows_the_window():
+def a_start_takes_the_place_of_one_that_ends():
+    first = Application(ending=True)
     start()
+    check("calls", len(first.activated), 1)
+
+
+def a_task_list_knows_the_window():
     wait_for("the empty window", lambda: program.says(L["ui_no_enclosure"]))
     check("class", window.get_wm_class()[1], NAME)
     check("pictures", icon_widths(window), [16, 32, 64, 128])
@@ -227,8 +232,8 @@ def the_end_of_the_program_closes_the_notification():
     wait_for("the notification to be closed", lambda: 4 in service.closed)
 
 
-run(a_second_start_hands_the_launchers_token_on, a_task_list_knows_the_window,
-    what_is_no_control_drags_the_window, a_control_does_not_drag_it,
+run(a_second_start_hands_the_launchers_token_on, a_start_takes_the_place_of_one_that_ends,
+    a_task_list_knows_the_window, what_is_no_control_drags_the_window, a_control_does_not_drag_it,
     a_second_start_brings_back_the_minimised_window, a_second_start_brings_the_window_before_others,
     a_second_start_does_not_replace_one_that_hangs,
     a_mirror_found_degraded_at_the_start_is_notified, the_notification_brings_the_window_back,

@@ -28,11 +28,15 @@ def call_bus(bus, method, arguments):
 
 
 class Application:
-    """A program of this name that runs already; served while the test waits for something."""
+    """A program of this name that runs already; served while the test waits for something.
+
+    One that is ending gives its name back instead of an answer.
+    """
 
     NAME = "org.kestrelraid.KestrelRaid"
 
-    def __init__(self):
+    def __init__(self, ending=False):
+        self.ending = ending
         self.activated = []  # what came with each call
         self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
         self.object = self.bus.register_object(
@@ -41,7 +45,11 @@ class Application:
 
     def _serve(self, _bus, _sender, _path, _interface, _method, arguments, call):
         self.activated.append(arguments.unpack()[0])
-        call.return_value(None)
+        if self.ending:
+            self.close()
+            call.return_dbus_error("org.freedesktop.DBus.Error.NoReply", "it has ended")
+        else:
+            call.return_value(None)
 
     def close(self):
         call_bus(self.bus, "ReleaseName", GLib.Variant("(s)", (self.NAME,)))
