@@ -124,10 +124,32 @@ TEST_F(outline, ShowsBranchesAndLeavesInTheirPlaces) {
     EXPECT_EQ(model.columnCount(), 1);
 }
 
+TEST_F(outline, HasOneNamedColumn) {
+    model.set_heading("Devices");
+    EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole), QStringLiteral("Devices"));
+    EXPECT_EQ(model.headerData(0, Qt::Vertical, Qt::DisplayRole), QVariant());
+}
+
 TEST_F(outline, ShowsNothingWithoutASource) {
     show();
     model.set_data_source(nullptr);
     EXPECT_EQ(rows(model), QStringList());
+}
+
+// The tester of the fixture ends the test where the model breaks a rule of its kind.
+TEST_F(outline, KeepsTheRulesOfModelsFromEmptyToFullAndBack) {
+    treeview full = data;
+    data.cleartree();
+    show();
+    QAbstractItemModelTester while_empty(&model,
+                                         QAbstractItemModelTester::FailureReportingMode::Fatal);
+    for (int round = 0; round < 3; ++round) {
+        model.set_data_source(std::make_unique<const treeview>(full));
+        EXPECT_EQ(rows(model).size(), 6 + round);
+        model.set_data_source(std::make_unique<const treeview>(data));
+        EXPECT_EQ(rows(model).size(), 0);
+        full.adddisk(1, "one more", false);
+    }
 }
 
 TEST_F(outline, KeepsWhatItShowsWhileTheDataChanges) {
