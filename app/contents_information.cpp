@@ -41,18 +41,19 @@ text_field* caption_field(QWidget* page, const char* name, const QRect& where) {
     return field;
 }
 
-void build_card(QWidget* page, int port, const card_outlets& outlets) {
+disk_card build_card(QWidget* page, int port, const card_outlets& outlets) {
     constexpr int row_distance = 38;
     const auto at = [port](const QRect& first) {
         return first.translated(port * card_distance, 0);
     };
     with_role(make<QFrame>(page, at(QRect(128, 76, 316, 212))), "box");
     auto* picture = make<QLabel>(page, at(QRect(148, 92, 45, 52)));
-    picture->setPixmap(QIcon(QStringLiteral(":/disk.png")).pixmap(45, 52));
     *outlets.heading =
         with_role(make<text_field>(page, outlets.names[0], at(QRect(208, 90, 216, 22))), "caption");
     tell_picture(picture, {*outlets.heading});
     *outlets.model = caption_field(page, outlets.names[1], at(QRect(208, 114, 216, 36)));
+    auto* nothing_in =
+        with_role(make<text_field>(page, at(QRect(208, 114, 216, 18))), "state", "faint");
     with_role(make<QFrame>(page, at(QRect(148, 158, 276, 1))), "hairline");
     for (std::size_t row = 0; row < outlets.captions.size(); ++row) {
         const int down = static_cast<int>(row) * row_distance;
@@ -61,28 +62,31 @@ void build_card(QWidget* page, int port, const card_outlets& outlets) {
         *outlets.values[row] =
             value_field(page, outlets.names[5 + row], at(QRect(260, 170 + down, 164, 36)));
     }
+    return {picture, nothing_in};
 }
 
 void build_cards(controller& window, QWidget* page) {
     window_extras& extras = *window.extras;
-    build_card(page, 0,
-               {&window.disk1_info_static_label,
-                &window.disk0modelfield,
-                {&window.disk1_SN_static_label, &window.disk1_mode_static_label,
-                 &window.disk1_physize_static_label},
-                {&window.disk0serialfield, &extras.info_modes[0], &window.disk0sizefield},
-                {"disk1_info_static_label", "disk0modelfield", "disk1_SN_static_label",
-                 "disk1_mode_static_label", "disk1_physize_static_label", "disk0serialfield",
-                 "disk0infomode", "disk0sizefield"}});
-    build_card(page, 1,
-               {&window.disk2_info_static_label,
-                &window.disk1modelfield,
-                {&window.disk2_SN_static_label, &window.disk2_mode_static_label,
-                 &window.disk2_physize_static_label},
-                {&window.disk1serialfield, &extras.info_modes[1], &window.disk1sizefield},
-                {"disk2_info_static_label", "disk1modelfield", "disk2_SN_static_label",
-                 "disk2_mode_static_label", "disk2_physize_static_label", "disk1serialfield",
-                 "disk1infomode", "disk1sizefield"}});
+    extras.disk_cards[0] =
+        build_card(page, 0,
+                   {&window.disk1_info_static_label,
+                    &window.disk0modelfield,
+                    {&window.disk1_SN_static_label, &window.disk1_mode_static_label,
+                     &window.disk1_physize_static_label},
+                    {&window.disk0serialfield, &extras.info_modes[0], &window.disk0sizefield},
+                    {"disk1_info_static_label", "disk0modelfield", "disk1_SN_static_label",
+                     "disk1_mode_static_label", "disk1_physize_static_label", "disk0serialfield",
+                     "disk0infomode", "disk0sizefield"}});
+    extras.disk_cards[1] =
+        build_card(page, 1,
+                   {&window.disk2_info_static_label,
+                    &window.disk1modelfield,
+                    {&window.disk2_SN_static_label, &window.disk2_mode_static_label,
+                     &window.disk2_physize_static_label},
+                    {&window.disk1serialfield, &extras.info_modes[1], &window.disk1sizefield},
+                    {"disk2_info_static_label", "disk1modelfield", "disk2_SN_static_label",
+                     "disk2_mode_static_label", "disk2_physize_static_label", "disk1serialfield",
+                     "disk1infomode", "disk1sizefield"}});
     window.disk0modefield->repeat_in(extras.info_modes[0]);
     window.disk1modefield->repeat_in(extras.info_modes[1]);
 }

@@ -27,9 +27,11 @@ QString tip_text(const QString& plain) {
     if (plain.isEmpty()) {
         return {};
     }
-    // Its blanks stay, and long lines are broken at them.
-    return QLatin1String("<p style=\"white-space: pre-wrap;\">") + plain.toHtmlEscaped() +
-           QLatin1String("</p>");
+    // Left to itself the toolkit breaks even short tips into narrow lines.
+    constexpr qsizetype longest_line = 80;
+    const bool fits = plain.size() <= longest_line;
+    return QStringLiteral("<p style=\"white-space: %1;\">%2</p>")
+        .arg(fits ? QLatin1String("pre") : QLatin1String("pre-wrap"), plain.toHtmlEscaped());
 }
 
 QString button_text(const std::string& utf8) {

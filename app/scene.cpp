@@ -13,6 +13,7 @@
 #include "app/placing.h"
 #include "app/plain_text.h"
 #include "app/radio_matrix.h"
+#include "app/scene_disks.h"
 #include "app/scene_outlook.h"
 #include "app/styling.h"
 #include "app/tab_view.h"
@@ -32,30 +33,6 @@ constexpr QSize disk_size(104, 120);
 
 QString localised(const char* key) {
     return one_line(j.with.texts.text(key));
-}
-
-const char* picture_of(disk_condition condition) {
-    switch (condition) {
-    case disk_condition::degraded:
-        return "disk-warning";
-    case disk_condition::broken:
-        return "disk-error";
-    case disk_condition::good:
-        break;
-    }
-    return "disk";
-}
-
-const char* tone_of(disk_condition condition) {
-    switch (condition) {
-    case disk_condition::degraded:
-        return "warn";
-    case disk_condition::broken:
-        return "err";
-    case disk_condition::good:
-        break;
-    }
-    return "";
 }
 
 void show_note(const status_extras& extras, const char* heading, const char* text,
@@ -82,46 +59,6 @@ void show_work(controller& window, const char* heading, const char* text) {
     }
 }
 
-void show_empty_bay(const status_extras& extras, std::size_t port) {
-    constexpr int bay_distance = 320;
-    place(extras.empty_pictures[port],
-          disk0_picture_place.translated(static_cast<int>(port) * bay_distance, 0));
-    show_picture(extras.empty_pictures[port], QStringLiteral("disk-missing"), disk_size);
-    extras.empty_pictures[port]->show();
-    extras.empty_captions[port]->show();
-    extras.empty_words[port]->show();
-}
-
-// On the configuration tab: the icon stands before the mode.
-void show_configured(controller& window, const disk_view& disk, std::size_t port) {
-    constexpr int row_distance = 60;
-    constexpr QRect full(548, 403, 208, 18);
-    constexpr QRect beside_icon(570, 403, 186, 18);
-    const configured_disk& extras = window.extras->configured[port];
-    text_field* mode = port == 0 ? window.disk0modefield : window.disk1modefield;
-    const bool well = disk.condition == disk_condition::good;
-    place(mode, (well ? full : beside_icon).translated(0, static_cast<int>(port) * row_distance));
-    set_tone(mode, well ? "quiet" : tone_of(disk.condition));
-    show_picture(extras.icon,
-                 disk.condition == disk_condition::broken ? QStringLiteral("status-error")
-                                                          : QStringLiteral("status-warn"),
-                 QSize(16, 16));
-    extras.icon->setVisible(!well);
-    set_tone(extras.caption, disk.present ? "" : "faint");
-    extras.nothing_in->set_value(disk.present ? QString() : localised("ui_empty_bay"));
-}
-
-void show_bay(controller& window, const disk_view& disk, std::size_t port) {
-    text_field* picture = port == 0 ? window.disk0cappicture : window.disk1cappicture;
-    show_picture(picture, QLatin1String(picture_of(disk.condition)), disk_size);
-    set_tone(port == 0 ? window.disk0picmodefield : window.disk1picmodefield,
-             tone_of(disk.condition));
-    show_configured(window, disk, port);
-    if (!disk.present) {
-        show_empty_bay(window.extras->status, port);
-    }
-}
-
 void hide_status_extras(const status_extras& extras) {
     extras.enclosure_picture->hide();
     extras.note_heading->hide();
@@ -137,18 +74,6 @@ void hide_status_extras(const status_extras& extras) {
     }
 }
 
-// A dash stands for what is not known.
-void clear_configured(const configured_disk& disk) {
-    disk.icon->hide();
-    set_tone(disk.caption, "faint");
-    disk.nothing_in->set_value(QStringLiteral("–"));
-}
-
-void clear_card(const rebuild_card& card) {
-    restyle(card.frame, "fate", "");
-    card.fate->set_value(QString());
-}
-
 } // namespace
 
 void clear_scene(controller& window) {
@@ -156,8 +81,7 @@ void clear_scene(controller& window) {
     hide_status_extras(extras.status);
     clear_outlook(window);
     for (std::size_t port = 0; port < extras.cards.size(); ++port) {
-        clear_configured(extras.configured[port]);
-        clear_card(extras.cards[port]);
+        clear_disk_scene(window, port);
     }
     extras.speed->set_value(QString());
     extras.time_left->set_value(QString());
@@ -193,7 +117,7 @@ void show_empty_scene(controller& window) {
 
 void show_chip_scene(controller& window, const view_state& view, const outlook& now) {
     for (std::size_t port = 0; port < view.disks.size(); ++port) {
-        show_bay(window, view.disks[port], port);
+        show_disk_scene(window, view.disks[port], port);
     }
     const bool volume = view.raid_valid;
     window.extras->status.bay_divider->setVisible(!volume);

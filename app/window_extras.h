@@ -50,6 +50,12 @@ struct rebuild_card {
     text_field* fate = nullptr;   // under a direction that is being looked at
 };
 
+// One disk of the second page.
+struct disk_card {
+    QLabel* picture = nullptr;
+    text_field* nothing_in = nullptr; // in place of the model of a disk that is not there
+};
+
 // Owned by the window's contents. Index = port, or page.
 struct window_extras {
     std::array<text_field*, 2> page_captions{};
@@ -64,6 +70,7 @@ struct window_extras {
     text_field* speed = nullptr;
     text_field* time_left = nullptr;
     // On the second page.
+    std::array<disk_card, 2> disk_cards;
     std::array<text_field*, 2> info_modes{}; // repeat the mode fields
     titled_box* devices_box = nullptr;
     QPushButton* warmbootbutton = nullptr; // restarts the first enclosure of the list
