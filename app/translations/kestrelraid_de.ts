@@ -225,7 +225,7 @@
     </message>
     <message id="ui_raid_1_meaning">
         <source></source>
-        <translation>Zwei gleiche Kopien. Eine darf ausfallen.</translation>
+        <translation>Zwei Kopien: Eine Platte darf ausfallen.</translation>
     </message>
     <message id="ui_span_meaning">
         <source></source>
@@ -249,7 +249,7 @@
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>Beide Festplatten und der Verbund werden neu eingelesen. Das dauert einige Sekunden.</translation>
+        <translation>Die Gehäuse und ihre Festplatten werden eingelesen. Das dauert einige Sekunden.</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
@@ -281,7 +281,7 @@
     </message>
     <message id="ui_plan_untouched">
         <source></source>
-        <translation>nichts wird geschrieben</translation>
+        <translation>es wird nichts geschrieben</translation>
     </message>
     <message id="ui_plan_all_lost">
         <source></source>
@@ -317,7 +317,7 @@
     </message>
     <message id="ui_plan_foreign_sectors">
         <source></source>
-        <translation>Die Sektoren sind nicht 512 Byte groß.</translation>
+        <translation>Die Sektoren sind nicht 512 Byte groß.</translation>
     </message>
     <message id="ui_copy_failed">
         <source></source>
@@ -393,7 +393,7 @@
     </message>
     <message id="ui_step_wait">
         <source></source>
-        <translation>Es erscheint von selbst, sonst: „%1“.</translation>
+        <translation>Es erscheint hier, sonst „%1“ klicken.</translation>
     </message>
     <message id="ui_advice_none">
         <source></source>
@@ -405,11 +405,11 @@
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>Schacht %1 ist leer. Setzen Sie dort eine zweite Festplatte ein, um einen Verbund zu erstellen.</translation>
+        <translation>Schacht %1 ist leer. Setzen Sie dort eine zweite Festplatte ein, um einen Verbund zu erstellen.</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
-        <translation>Zwei einzelne Festplatten. Um sie zu verbinden, wählen Sie unten eine Art und klicken Sie auf „%1“; dabei geht alles auf beiden Festplatten verloren.</translation>
+        <translation>Zwei einzelne Festplatten. Um sie zu verbinden, wählen Sie unten eine Betriebsart und klicken Sie auf „%1“; dabei geht alles auf beiden Festplatten verloren.</translation>
     </message>
     <message id="ui_advice_mirror">
         <source></source>
@@ -421,39 +421,39 @@
     </message>
     <message id="ui_advice_span">
         <source></source>
-        <translation>Festplatte 2 setzt fort, wo Festplatte 1 endet. Fällt eine aus, ist ihr Teil der Daten verloren: Bewahren Sie anderswo eine Kopie auf.</translation>
+        <translation>Festplatte 2 setzt fort, wo Festplatte 1 endet. Fällt eine aus, ist ihr Teil der Daten verloren: Bewahren Sie anderswo eine Kopie auf.</translation>
     </message>
     <message id="ui_advice_missing">
         <source></source>
-        <translation>Festplatte %1 fehlt, die einzige Kopie liegt auf Festplatte %2. Setzen Sie eine Festplatte mit mindestens %3 in Schacht %1 ein; danach ist die Wiederherstellung möglich.</translation>
+        <translation>Festplatte %1 fehlt, die einzige Kopie liegt auf Festplatte %2. Setzen Sie eine Festplatte mit mindestens %3 in Schacht %1 ein; danach ist die Wiederherstellung möglich.</translation>
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1. Um wieder zwei zu haben, kopieren Sie die Daten unten mit „%3“ auf Festplatte %2.</translation>
+        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1. Um wieder zwei zu haben, kopieren Sie die Daten unten mit „%3“ auf Festplatte %2.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
-        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1, und Festplatte %2 ist zu klein für eine zweite. Setzen Sie eine Festplatte mit mindestens %3 in Schacht %2 ein.</translation>
+        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1, und Festplatte %2 ist zu klein für eine zweite. Setzen Sie eine Festplatte mit mindestens %3 in Schacht %2 ein.</translation>
     </message>
     <message id="ui_advice_differ">
         <source></source>
-        <translation>Beide Festplatten enthalten eine Kopie desselben RAID 1, doch die Kopien weichen voneinander ab; der Eintrag auf Festplatte %1 ist neuer. Wählen Sie, welche Sie behalten.</translation>
+        <translation>Beide Festplatten enthalten eine Kopie desselben RAID 1, doch die Kopien weichen voneinander ab; der Eintrag auf Festplatte %1 ist neuer. Wählen Sie, welche Kopie Sie behalten.</translation>
     </message>
     <message id="ui_advice_differ_undated">
         <source></source>
-        <translation>Beide Festplatten enthalten eine Kopie eines RAID 1, aber die Kopien passen nicht zusammen. Wählen Sie, welche Sie behalten.</translation>
+        <translation>Beide Festplatten enthalten eine Kopie eines RAID 1, aber die Kopien passen nicht zusammen. Wählen Sie, welche Sie behalten.</translation>
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Der halbe Verbund fehlt. Um an die Daten zu kommen, setzen Sie die andere Festplatte wieder ein. Leeren Sie Festplatte %1 nur, wenn die Daten entbehrlich sind.</translation>
+        <translation>Die Hälfte des Verbunds fehlt. Um an die Daten zu kommen, setzen Sie die andere Festplatte wieder ein. Leeren Sie Festplatte %1 nur, wenn Sie die Daten nicht mehr brauchen.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>Die Einträge passen nicht zusammen. Um an Daten zu kommen, setzen Sie beide Platten eines Verbunds ein. Leeren Sie eine Platte nur, wenn ihre Daten entbehrlich sind.</translation>
+        <translation>Die Einträge passen nicht zusammen. Um an Daten zu kommen, setzen Sie beide Platten eines Verbunds ein. Leeren Sie eine Platte nur, wenn Sie ihre Daten nicht mehr brauchen.</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>Das Volume bleibt benutzbar. Bis die Kopie fertig ist, enthält nur Festplatte %1 alle Daten: Schalten Sie das Gehäuse nicht aus und ziehen Sie es nicht ab.</translation>
+        <translation>Das Volume bleibt benutzbar. Bis die Kopie fertig ist, enthält nur Festplatte %1 alle Daten: Schalten Sie das Gehäuse nicht aus und ziehen Sie es nicht ab.</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>
@@ -561,7 +561,7 @@
     </message>
     <message id="ui_guide_keep">
         <source></source>
-        <translation>Bewahren, was noch da ist</translation>
+        <translation>Sichern, was noch da ist</translation>
     </message>
     <message id="ui_guide_keep_text">
         <source></source>
@@ -589,7 +589,7 @@
     </message>
     <message id="ui_guide_rebuild_text">
         <source></source>
-        <translation>Klicken Sie im Reiter „%1“ auf die Schaltfläche, deren Pfeil von der verbliebenen zur neuen Festplatte zeigt. Lassen Sie das Gehäuse an, bis das Programm das Ende der Wiederherstellung meldet.</translation>
+        <translation>Klicken Sie im Reiter „%1“ auf die Schaltfläche, deren Pfeil von der verbliebenen zur neuen Festplatte zeigt. Lassen Sie das Gehäuse eingeschaltet, bis das Programm das Ende der Wiederherstellung meldet.</translation>
     </message>
     <message id="ui_guide_no_copy">
         <source></source>

@@ -249,7 +249,7 @@
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>Both disks and the array are being read again. This takes a few seconds.</translation>
+        <translation>The enclosures and their disks are being read. This takes a few seconds.</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
@@ -393,7 +393,7 @@
     </message>
     <message id="ui_step_wait">
         <source></source>
-        <translation>It appears here by itself, or press “%1”.</translation>
+        <translation>It should appear here; if not, press “%1”.</translation>
     </message>
     <message id="ui_advice_none">
         <source></source>
@@ -409,7 +409,7 @@
     </message>
     <message id="ui_advice_pair">
         <source></source>
-        <translation>Two separate disks. To join them, choose a kind below and press “%1”; everything on both disks is then lost.</translation>
+        <translation>Two separate disks. To join them, choose a mode below and press “%1”; everything on both disks is then lost.</translation>
     </message>
     <message id="ui_advice_mirror">
         <source></source>
@@ -565,7 +565,7 @@
     </message>
     <message id="ui_guide_keep_text">
         <source></source>
-        <translation>The other disk of a RAID 1 holds all your data, and the array keeps working with it. Copy anything you cannot afford to lose to another place now. Do not create, delete or clear anything.</translation>
+        <translation>The other disk of a RAID 1 holds all your data, and the array keeps working with it. Now copy to another place anything you cannot afford to lose. Do not create, delete or clear anything.</translation>
     </message>
     <message id="ui_guide_find">
         <source></source>
@@ -589,7 +589,7 @@
     </message>
     <message id="ui_guide_rebuild_text">
         <source></source>
-        <translation>On the tab “%1”, press the button whose arrow points from the remaining disk to the new one. Keep the enclosure switched on until the program says that the rebuild is complete.</translation>
+        <translation>On the “%1” tab, press the button whose arrow points from the remaining disk to the new one. Keep the enclosure switched on until the program says that the rebuild is complete.</translation>
     </message>
     <message id="ui_guide_no_copy">
         <source></source>

@@ -29,7 +29,7 @@
     </message>
     <message id="raid_status">
         <source></source>
-        <translation>Estado del RAID</translation>
+        <translation>Estado del RAID</translation>
     </message>
     <message id="rebuild_progress">
         <source></source>
@@ -249,7 +249,7 @@
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>Se están leyendo de nuevo los dos discos y el conjunto. Tardará unos segundos.</translation>
+        <translation>Se están leyendo las cajas y sus discos. Tardará unos segundos.</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
@@ -309,7 +309,7 @@
     </message>
     <message id="ui_plan_record_inside_mirror">
         <source></source>
-        <translation>La copia alcanza el lugar de su registro RAID.</translation>
+        <translation>La copia alcanza la zona de su registro RAID.</translation>
     </message>
     <message id="ui_plan_larger_than_used">
         <source></source>
@@ -405,11 +405,11 @@
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>La bahía %1 está vacía. Para crear un conjunto RAID, inserte en ella un segundo disco.</translation>
+        <translation>La bahía %1 está vacía. Para crear un conjunto RAID, inserte en ella un segundo disco.</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
-        <translation>Dos discos independientes. Para unirlos, elija un modo abajo y pulse «%1»; se perderá todo el contenido de ambos discos.</translation>
+        <translation>Dos discos independientes. Para unirlos, elija abajo un modo y pulse «%1»; se perderá todo el contenido de ambos discos.</translation>
     </message>
     <message id="ui_advice_mirror">
         <source></source>
@@ -421,31 +421,31 @@
     </message>
     <message id="ui_advice_span">
         <source></source>
-        <translation>El disco 2 continúa donde termina el disco 1. Si uno falla, se pierde su parte de los datos: guarde una copia en otro lugar.</translation>
+        <translation>El disco 2 continúa donde termina el disco 1. Si uno falla, se pierde su parte de los datos: guarde una copia en otro lugar.</translation>
     </message>
     <message id="ui_advice_missing">
         <source></source>
-        <translation>Falta el disco %1, así que solo queda una copia, en el disco %2. Inserte un disco de al menos %3 en la bahía %1; después podrá iniciar la reconstrucción.</translation>
+        <translation>Falta el disco %1, así que solo queda una copia, en el disco %2. Inserte un disco de al menos %3 en la bahía %1; después podrá iniciar la reconstrucción.</translation>
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Solo el disco %1 contiene una copia de este RAID 1. Para volver a tener dos, copie los datos en el disco %2 con el botón «%3» de abajo.</translation>
+        <translation>Solo el disco %1 contiene una copia de este RAID 1. Para volver a tener dos, copie los datos en el disco %2 con el botón «%3» de abajo.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
-        <translation>Solo el disco %1 contiene una copia de este RAID 1, y el disco %2 es demasiado pequeño para otra. Inserte un disco de al menos %3 en la bahía %2.</translation>
+        <translation>Solo el disco %1 contiene una copia de este RAID 1, y el disco %2 es demasiado pequeño para otra. Inserte un disco de al menos %3 en la bahía %2.</translation>
     </message>
     <message id="ui_advice_differ">
         <source></source>
-        <translation>Cada disco contiene una copia del mismo RAID 1, pero las copias difieren; el registro del disco %1 es el más reciente. Elija qué copia desea conservar.</translation>
+        <translation>Cada disco contiene una copia del mismo RAID 1, pero las copias difieren; el registro del disco %1 es el más reciente. Elija qué copia desea conservar.</translation>
     </message>
     <message id="ui_advice_differ_undated">
         <source></source>
-        <translation>Cada disco contiene una copia de un RAID 1, pero las copias no se corresponden entre sí. Elija cuál desea conservar.</translation>
+        <translation>Cada disco contiene una copia de un RAID 1, pero las copias no se corresponden entre sí. Elija cuál desea conservar.</translation>
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Falta la mitad de este conjunto. Para acceder a sus datos, vuelva a insertar el otro disco. Borre el disco %1 solo si ya no necesita los datos.</translation>
+        <translation>Falta la mitad de este conjunto. Para acceder a sus datos, vuelva a insertar el otro disco. Borre el disco %1 solo si ya no necesita los datos.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
@@ -453,7 +453,7 @@
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>Mientras tanto, puede usar el volumen. Hasta que termine la copia, solo el disco %1 contiene todos los datos: no apague ni desconecte la caja.</translation>
+        <translation>Mientras tanto, puede usar el volumen. Hasta que termine la copia, solo el disco %1 contiene todos los datos: no apague ni desconecte la caja.</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>

@@ -105,7 +105,7 @@
     </message>
     <message id="raid_info_conflict">
         <source></source>
-        <translation>Les enregistrements RAID des disques ne concordent pas. Reconstruisez un RAID 1 à partir du disque dont vous voulez garder les données, effacez un disque ou créez un ensemble.</translation>
+        <translation>Les enregistrements RAID des disques ne concordent pas. Reconstruisez un RAID 1 à partir du disque dont vous gardez les données, effacez un disque ou créez un nouvel ensemble.</translation>
     </message>
     <message id="attention">
         <source></source>
@@ -249,7 +249,7 @@
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>Nouvelle lecture des deux disques et de l’ensemble RAID. Cela prend quelques secondes.</translation>
+        <translation>Lecture des boîtiers et de leurs disques. Cela prend quelques secondes.</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
@@ -405,7 +405,7 @@
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>La baie %1 est vide. Pour créer un ensemble RAID, insérez-y un second disque.</translation>
+        <translation>La baie %1 est vide. Pour créer un ensemble RAID, insérez-y un second disque.</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -421,31 +421,31 @@
     </message>
     <message id="ui_advice_span">
         <source></source>
-        <translation>Le disque 2 prend la suite du disque 1. Si l’un tombe en panne, les données qu’il contient sont perdues : gardez une copie ailleurs.</translation>
+        <translation>Le disque 2 prend la suite du disque 1. Si l’un tombe en panne, les données qu’il contient sont perdues : gardez une copie ailleurs.</translation>
     </message>
     <message id="ui_advice_missing">
         <source></source>
-        <translation>Le disque %1 est absent : il ne reste qu’une copie, sur le disque %2. Insérez un disque d’au moins %3 dans la baie %1 ; vous pourrez alors lancer la reconstruction.</translation>
+        <translation>Le disque %1 est absent : il ne reste qu’une copie, sur le disque %2. Insérez un disque d’au moins %3 dans la baie %1 ; vous pourrez alors lancer la reconstruction.</translation>
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Seul le disque %1 contient une copie de ce RAID 1. Pour en avoir de nouveau deux, copiez les données sur le disque %2 avec le bouton « %3 » ci-dessous.</translation>
+        <translation>Seul le disque %1 contient une copie de ce RAID 1. Pour en avoir de nouveau deux, copiez les données sur le disque %2 avec le bouton « %3 » ci-dessous.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
-        <translation>Seul le disque %1 contient une copie de ce RAID 1, et le disque %2 est trop petit pour en recevoir une. Insérez un disque d’au moins %3 dans la baie %2.</translation>
+        <translation>Seul le disque %1 contient une copie de ce RAID 1, et le disque %2 est trop petit pour en recevoir une. Insérez un disque d’au moins %3 dans la baie %2.</translation>
     </message>
     <message id="ui_advice_differ">
         <source></source>
-        <translation>Chaque disque contient une copie du même RAID 1, mais ces copies diffèrent ; l’enregistrement du disque %1 est le plus récent. Choisissez la copie à conserver.</translation>
+        <translation>Chaque disque contient une copie du même RAID 1, mais ces copies diffèrent ; l’enregistrement du disque %1 est le plus récent. Choisissez la copie à conserver.</translation>
     </message>
     <message id="ui_advice_differ_undated">
         <source></source>
-        <translation>Chaque disque contient une copie d’un RAID 1, mais ces copies ne concordent pas. Choisissez celle à conserver.</translation>
+        <translation>Chaque disque contient une copie d’un RAID 1, mais ces copies ne concordent pas. Choisissez celle à conserver.</translation>
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Il manque la moitié de cet ensemble. Pour accéder à ses données, remettez l’autre disque en place. N’effacez le disque %1 que si les données ne servent plus.</translation>
+        <translation>Il manque la moitié de cet ensemble. Pour accéder à ses données, remettez l’autre disque en place. N’effacez le disque %1 que si les données ne servent plus.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
@@ -453,7 +453,7 @@
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>Le volume reste utilisable. Tant que la copie n’est pas terminée, seul le disque %1 contient toutes les données : n’éteignez pas le boîtier et ne le débranchez pas.</translation>
+        <translation>Le volume reste utilisable. Tant que la copie n’est pas terminée, seul le disque %1 contient toutes les données : n’éteignez pas le boîtier et ne le débranchez pas.</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>

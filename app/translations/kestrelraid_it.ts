@@ -181,7 +181,7 @@
     </message>
     <message id="ui_system_information">
         <source></source>
-        <translation>Informazioni di sistema</translation>
+        <translation>Informazioni di sistema</translation>
     </message>
     <message id="ui_devices">
         <source></source>
@@ -249,7 +249,7 @@
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>È in corso una nuova lettura dei due dischi e dell’array. Richiede alcuni secondi.</translation>
+        <translation>È in corso la lettura dei box e dei loro dischi. Richiede alcuni secondi.</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
@@ -405,7 +405,7 @@
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>Il vano %1 è vuoto. Per creare un array, inserirvi un secondo disco.</translation>
+        <translation>Il vano %1 è vuoto. Per creare un array, inserirvi un secondo disco.</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -421,31 +421,31 @@
     </message>
     <message id="ui_advice_span">
         <source></source>
-        <translation>Il disco 2 prosegue dove finisce il disco 1. Se uno si guasta, la sua parte dei dati va persa: conservare una copia altrove.</translation>
+        <translation>Il disco 2 prosegue dove finisce il disco 1. Se uno si guasta, la sua parte dei dati va persa: conservare una copia altrove.</translation>
     </message>
     <message id="ui_advice_missing">
         <source></source>
-        <translation>Manca il disco %1, quindi resta una sola copia, sul disco %2. Inserire un disco di almeno %3 nel vano %1; sarà poi possibile avviare la ricostruzione.</translation>
+        <translation>Manca il disco %1, quindi resta una sola copia, sul disco %2. Inserire un disco di almeno %3 nel vano %1; sarà poi possibile avviare la ricostruzione.</translation>
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Solo il disco %1 contiene una copia di questo RAID 1. Per averne di nuovo due, copiare i dati sul disco %2 con il pulsante «%3» qui sotto.</translation>
+        <translation>Solo il disco %1 contiene una copia di questo RAID 1. Per averne di nuovo due, copiare i dati sul disco %2 con il pulsante «%3» qui sotto.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
-        <translation>Solo il disco %1 contiene una copia di questo RAID 1 e il disco %2 è troppo piccolo per una seconda. Inserire un disco di almeno %3 nel vano %2.</translation>
+        <translation>Solo il disco %1 contiene una copia di questo RAID 1 e il disco %2 è troppo piccolo per una seconda. Inserire un disco di almeno %3 nel vano %2.</translation>
     </message>
     <message id="ui_advice_differ">
         <source></source>
-        <translation>Ogni disco contiene una copia dello stesso RAID 1, ma le copie sono diverse; il record del disco %1 è il più recente. Scegliere la copia da conservare.</translation>
+        <translation>Ogni disco contiene una copia dello stesso RAID 1, ma le copie sono diverse; il record del disco %1 è il più recente. Scegliere la copia da conservare.</translation>
     </message>
     <message id="ui_advice_differ_undated">
         <source></source>
-        <translation>Ogni disco contiene una copia di un RAID 1, ma le copie non corrispondono tra loro. Scegliere quella da conservare.</translation>
+        <translation>Ogni disco contiene una copia di un RAID 1, ma le copie non corrispondono tra loro. Scegliere quella da conservare.</translation>
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Manca metà di questo array. Per accedere ai dati, reinserire l’altro disco. Cancellare il disco %1 solo se i dati non servono più.</translation>
+        <translation>Manca metà di questo array. Per accedere ai dati, reinserire l’altro disco. Cancellare il disco %1 solo se i dati non servono più.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
@@ -453,7 +453,7 @@
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>Nel frattempo il volume resta utilizzabile. Fino al termine della copia solo il disco %1 contiene tutti i dati: non spegnere né scollegare il box.</translation>
+        <translation>Nel frattempo il volume resta utilizzabile. Fino al termine della copia solo il disco %1 contiene tutti i dati: non spegnere né scollegare il box.</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>

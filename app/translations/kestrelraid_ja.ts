@@ -133,7 +133,7 @@
     </message>
     <message id="all_data_lost">
         <source></source>
-        <translation>ディスク上のデータはすべて失われ、元に戻すことはできません。続けますか?</translation>
+        <translation>ディスク上のデータはすべて失われ、元に戻すことはできません。続けますか？</translation>
     </message>
     <message id="raid_create_error">
         <source></source>
@@ -149,11 +149,11 @@
     </message>
     <message id="disk1_to_disk2">
         <source></source>
-        <translation>ディスク 1 をディスク 2 にコピーしますか? ディスク 2 の内容はすべて上書きされ、元に戻すことはできません。</translation>
+        <translation>ディスク 1 をディスク 2 にコピーしますか？　ディスク 2 の内容はすべて上書きされ、元に戻すことはできません。</translation>
     </message>
     <message id="disk2_to_disk1">
         <source></source>
-        <translation>ディスク 2 をディスク 1 にコピーしますか? ディスク 1 の内容はすべて上書きされ、元に戻すことはできません。</translation>
+        <translation>ディスク 2 をディスク 1 にコピーしますか？　ディスク 1 の内容はすべて上書きされ、元に戻すことはできません。</translation>
     </message>
     <message id="rebuild_error">
         <source></source>
@@ -249,7 +249,7 @@
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>両方のディスクとアレイの情報を読み取り直しています。数秒かかります。</translation>
+        <translation>ケースとディスクを確認しています。数秒かかります。</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
@@ -293,7 +293,7 @@
     </message>
     <message id="ui_plan_read">
         <source></source>
-        <translation>読み取りのみ、データは残ります</translation>
+        <translation>読み取られ、データは残ります</translation>
     </message>
     <message id="ui_plan_overwritten">
         <source></source>
@@ -305,11 +305,11 @@
     </message>
     <message id="ui_plan_too_small">
         <source></source>
-        <translation>容量が %1 セクター不足しています。</translation>
+        <translation>容量が %1 セクター足りません。</translation>
     </message>
     <message id="ui_plan_record_inside_mirror">
         <source></source>
-        <translation>コピーが RAID 構成情報の位置に及びます。</translation>
+        <translation>コピー範囲が RAID 構成情報の位置に及びます。</translation>
     </message>
     <message id="ui_plan_larger_than_used">
         <source></source>
@@ -321,15 +321,15 @@
     </message>
     <message id="ui_copy_failed">
         <source></source>
-        <translation>RAID 構成情報のバックアップを保存できませんでした（%1）。バックアップなしで続けますか?</translation>
+        <translation>RAID 構成情報のバックアップを保存できませんでした（%1）。バックアップなしで続けますか？</translation>
     </message>
     <message id="ui_too_small_for_rebuild_1">
         <source></source>
-        <translation>ディスク 1 の容量が %1 セクター不足しています。</translation>
+        <translation>ディスク 1 の容量が %1 セクター足りません。</translation>
     </message>
     <message id="ui_too_small_for_rebuild_2">
         <source></source>
-        <translation>ディスク 2 の容量が %1 セクター不足しています。</translation>
+        <translation>ディスク 2 の容量が %1 セクター足りません。</translation>
     </message>
     <message id="ui_restart_named">
         <source></source>
@@ -393,11 +393,11 @@
     </message>
     <message id="ui_step_wait">
         <source></source>
-        <translation>表示されるのを待つか、「%1」を押します。</translation>
+        <translation>表示されない場合は、「%1」を押します。</translation>
     </message>
     <message id="ui_advice_none">
         <source></source>
-        <translation>それでも表示されない場合は、ケースの電源を確認してから、別のケーブルやポートをお試しください。</translation>
+        <translation>それでも表示されない場合は、ケースの電源を確認し、別のケーブルやポートをお試しください。</translation>
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
@@ -409,7 +409,7 @@
     </message>
     <message id="ui_advice_pair">
         <source></source>
-        <translation>独立した 2 台のディスクです。1 つにまとめるには、下で種類を選んで「%1」を押してください。その際、両方のディスクの内容はすべて失われます。</translation>
+        <translation>独立した 2 台のディスクです。1 つにまとめるには、下でモードを選んで「%1」を押してください。その際、両方のディスクの内容はすべて失われます。</translation>
     </message>
     <message id="ui_advice_mirror">
         <source></source>
@@ -453,7 +453,7 @@
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>再構築中もボリュームは使用できます。コピーが完了するまで、すべてのデータがあるのはディスク %1 だけです。電源を切ったりケーブルを抜いたりしないでください。</translation>
+        <translation>再構築中もボリュームは使用できます。コピーが完了するまで、すべてのデータがあるのはディスク %1 だけです。ケースの電源を切ったりケーブルを抜いたりしないでください。</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>
@@ -485,7 +485,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>アレイが不完全です。ディスクを 1 台ずつ消去してください。</translation>
+        <translation>アレイが不完全です。削除するには、ディスクを 1 台ずつ消去してください。</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -549,7 +549,7 @@
     </message>
     <message id="ui_changing_advice">
         <source></source>
-        <translation>ディスクの構成情報を書き込んでいます。電源を切ったりケーブルを抜いたりしないでください。</translation>
+        <translation>ディスクの構成情報を書き込んでいます。ケースの電源を切ったりケーブルを抜いたりしないでください。</translation>
     </message>
     <message id="ui_guide">
         <source></source>
@@ -593,7 +593,7 @@
     </message>
     <message id="ui_guide_no_copy">
         <source></source>
-        <translation>RAID 0 とスパニングでは、データは二重化されません。別のケーブルやベイでもう一度ディスクを試してください。故障している場合、データを戻せるのはバックアップからだけです。</translation>
+        <translation>RAID 0 とスパニングでは、データは二重化されません。別のケーブルやベイでもう一度ディスクを試してください。故障していれば、データはバックアップからしか戻せません。</translation>
     </message>
     <message id="ui_open_window">
         <source></source>

@@ -249,7 +249,7 @@
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>두 디스크와 어레이의 정보를 다시 읽고 있습니다. 몇 초 정도 걸립니다.</translation>
+        <translation>인클로저와 디스크의 정보를 읽고 있습니다. 몇 초 정도 걸립니다.</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
@@ -409,7 +409,7 @@
     </message>
     <message id="ui_advice_pair">
         <source></source>
-        <translation>서로 독립된 디스크 두 개입니다. 하나로 묶으려면 아래에서 종류를 선택하고 ‘%1’ 버튼을 누르십시오. 이때 두 디스크의 모든 내용이 손실됩니다.</translation>
+        <translation>서로 독립된 디스크 두 개입니다. 하나로 묶으려면 아래에서 모드를 선택하고 ‘%1’ 버튼을 누르십시오. 이때 두 디스크의 모든 내용이 손실됩니다.</translation>
     </message>
     <message id="ui_advice_mirror">
         <source></source>
@@ -453,7 +453,7 @@
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>재구축 중에도 볼륨을 사용할 수 있습니다. 복사가 끝날 때까지 전체 데이터는 디스크 %1에만 있으므로 전원을 끄거나 케이블을 뽑지 마십시오.</translation>
+        <translation>재구축 중에도 볼륨을 사용할 수 있습니다. 복사가 끝날 때까지 전체 데이터는 디스크 %1에만 있으므로 인클로저의 전원을 끄거나 케이블을 뽑지 마십시오.</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>
@@ -485,7 +485,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>어레이가 불완전합니다. 디스크를 하나씩 지우십시오.</translation>
+        <translation>어레이가 불완전합니다. 삭제하려면 디스크를 하나씩 지우십시오.</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -549,7 +549,7 @@
     </message>
     <message id="ui_changing_advice">
         <source></source>
-        <translation>디스크의 구성 정보를 기록하고 있습니다. 전원을 끄거나 케이블을 뽑지 마십시오.</translation>
+        <translation>디스크의 구성 정보를 기록하고 있습니다. 인클로저의 전원을 끄거나 케이블을 뽑지 마십시오.</translation>
     </message>
     <message id="ui_guide">
         <source></source>
@@ -589,11 +589,11 @@
     </message>
     <message id="ui_guide_rebuild_text">
         <source></source>
-        <translation>‘%1’ 탭에서, 남은 디스크로부터 새 디스크를 가리키는 화살표가 있는 버튼을 누르십시오. 재구축이 완료되었다는 메시지가 나타날 때까지 인클로저의 전원을 끄지 마십시오.</translation>
+        <translation>‘%1’ 탭에서, 남은 디스크에서 새 디스크 쪽을 가리키는 화살표 버튼을 누르십시오. 재구축이 완료되었다는 메시지가 나타날 때까지 인클로저의 전원을 끄지 마십시오.</translation>
     </message>
     <message id="ui_guide_no_copy">
         <source></source>
-        <translation>RAID 0 및 스팬은 데이터를 한 벌만 저장합니다. 다른 케이블이나 베이로 디스크를 다시 시험해 보십시오. 디스크가 고장 났다면 백업으로만 복구할 수 있습니다.</translation>
+        <translation>RAID 0 및 스팬은 데이터를 한 벌만 저장합니다. 케이블을 바꾸거나 다른 베이에 넣어 다시 시도해 보십시오. 디스크가 고장 났다면 백업으로만 복구할 수 있습니다.</translation>
     </message>
     <message id="ui_open_window">
         <source></source>

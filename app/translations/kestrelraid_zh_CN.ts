@@ -85,7 +85,7 @@
     </message>
     <message id="old">
         <source></source>
-        <translation>旧磁盘</translation>
+        <translation>原有磁盘</translation>
     </message>
     <message id="rebuild_source">
         <source></source>
@@ -249,7 +249,7 @@
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>正在重新读取两块磁盘和阵列，需要几秒钟。</translation>
+        <translation>正在读取硬盘盒和其中的磁盘，需要几秒钟。</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
@@ -317,7 +317,7 @@
     </message>
     <message id="ui_plan_foreign_sectors">
         <source></source>
-        <translation>此磁盘的扇区大小不是 512 字节。</translation>
+        <translation>扇区大小不是 512 字节。</translation>
     </message>
     <message id="ui_copy_failed">
         <source></source>
@@ -393,7 +393,7 @@
     </message>
     <message id="ui_step_wait">
         <source></source>
-        <translation>硬盘盒会自动出现在这里，也可点击“%1”。</translation>
+        <translation>如未自动出现在这里，请点击“%1”。</translation>
     </message>
     <message id="ui_advice_none">
         <source></source>
@@ -445,15 +445,15 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>此阵列缺少一半。如需访问数据，请装回另一块磁盘。只有在不再需要这些数据时，才可清除磁盘 %1。</translation>
+        <translation>此阵列缺少一块磁盘。如需访问数据，请将其装回。只有在不再需要这些数据时，才可清除磁盘 %1。</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>两块磁盘上的记录不匹配。如需访问某个阵列的数据，请装回该阵列的两块磁盘。只有在不再需要磁盘上的数据时，才可将其清除。</translation>
+        <translation>两块磁盘上的记录不匹配。如需访问某个阵列的数据，请装回该阵列的两块磁盘。只有在不再需要某块磁盘上的数据时，才可清除该磁盘。</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>在此期间卷仍可使用。复制完成之前，只有磁盘 %1 存有全部数据：请勿关闭电源或断开连接。</translation>
+        <translation>重建期间仍可使用此卷。复制完成之前，只有磁盘 %1 存有全部数据：请勿关闭硬盘盒电源或断开连接。</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>
@@ -485,7 +485,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>阵列不完整。请逐一清除其中的磁盘。</translation>
+        <translation>阵列不完整。如需删除，请逐一清除其中的磁盘。</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -549,7 +549,7 @@
     </message>
     <message id="ui_changing_advice">
         <source></source>
-        <translation>正在写入磁盘上的记录。请勿关闭电源或断开连接。</translation>
+        <translation>正在写入磁盘上的记录。请勿关闭硬盘盒电源或断开连接。</translation>
     </message>
     <message id="ui_guide">
         <source></source>
@@ -581,7 +581,7 @@
     </message>
     <message id="ui_guide_replace_text">
         <source></source>
-        <translation>新磁盘的容量不能小于旧磁盘。新磁盘上的所有内容都将被覆盖，因此请选用一块没有任何需要保留的内容的磁盘。</translation>
+        <translation>新磁盘的容量不能小于故障磁盘。新磁盘上的所有内容都将被覆盖，因此请先确认其中没有需要保留的内容。</translation>
     </message>
     <message id="ui_guide_rebuild">
         <source></source>

@@ -85,7 +85,7 @@
     </message>
     <message id="old">
         <source></source>
-        <translation>舊磁碟</translation>
+        <translation>原有磁碟</translation>
     </message>
     <message id="rebuild_source">
         <source></source>
@@ -249,7 +249,7 @@
     </message>
     <message id="ui_scanning_advice">
         <source></source>
-        <translation>正在重新讀取兩顆磁碟和陣列，需要幾秒鐘。</translation>
+        <translation>正在讀取外接盒和其中的磁碟，需要幾秒鐘。</translation>
     </message>
     <message id="ui_rebuild_hint">
         <source></source>
@@ -317,7 +317,7 @@
     </message>
     <message id="ui_plan_foreign_sectors">
         <source></source>
-        <translation>這顆磁碟的磁區大小不是 512 位元組。</translation>
+        <translation>磁區大小不是 512 位元組。</translation>
     </message>
     <message id="ui_copy_failed">
         <source></source>
@@ -393,7 +393,7 @@
     </message>
     <message id="ui_step_wait">
         <source></source>
-        <translation>外接盒會自動出現在這裡，也可按「%1」。</translation>
+        <translation>若未自動出現在這裡，請按「%1」。</translation>
     </message>
     <message id="ui_advice_none">
         <source></source>
@@ -445,7 +445,7 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>這個陣列少了一半。若要存取資料，請裝回另一顆磁碟。確定不再需要這些資料時，才可清除磁碟 %1。</translation>
+        <translation>這個陣列少了一顆磁碟。若要存取資料，請將它裝回。確定不再需要這些資料時，才可清除磁碟 %1。</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
@@ -453,7 +453,7 @@
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
-        <translation>這段期間仍可使用磁碟區。複製完成之前，只有磁碟 %1 存有全部資料：請勿關閉電源或拔除連接線。</translation>
+        <translation>仍可繼續使用磁碟區。複製完成之前，只有磁碟 %1 存有全部資料：請勿關閉外接盒電源或拔除傳輸線。</translation>
     </message>
     <message id="ui_reason_no_enclosure">
         <source></source>
@@ -485,7 +485,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>陣列不完整。請逐一清除其中的磁碟。</translation>
+        <translation>陣列不完整。若要刪除，請逐一清除其中的磁碟。</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -549,7 +549,7 @@
     </message>
     <message id="ui_changing_advice">
         <source></source>
-        <translation>正在寫入磁碟上的記錄。請勿關閉電源或拔除連接線。</translation>
+        <translation>正在寫入磁碟上的記錄。請勿關閉外接盒電源或拔除傳輸線。</translation>
     </message>
     <message id="ui_guide">
         <source></source>
@@ -581,7 +581,7 @@
     </message>
     <message id="ui_guide_replace_text">
         <source></source>
-        <translation>新磁碟的容量不可小於舊磁碟。新磁碟上的所有內容都會被覆寫，因此請選用沒有任何內容需要保留的磁碟。</translation>
+        <translation>新磁碟的容量不可小於故障的磁碟。新磁碟上的所有內容都會被覆寫，因此請先確認其中沒有需要保留的內容。</translation>
     </message>
     <message id="ui_guide_rebuild">
         <source></source>
