@@ -1,5 +1,4 @@
 // What becomes of the focus when its control cannot have it.
-#include <QDialog>
 #include <QTimer>
 #include <QTreeView>
 
@@ -32,10 +31,13 @@ protected:
         enable_controls();
     }
     void show_message_and(const std::function<void()>& meanwhile) {
-        QTimer::singleShot(0, window->mainview, [&] {
+        QTimer user;
+        user.setSingleShot(true);
+        QObject::connect(&user, &QTimer::timeout, window->mainview, [&meanwhile] {
             meanwhile();
             press(Qt::Key_Return);
         });
+        user.start(0);
         window->show_message("message");
     }
 };

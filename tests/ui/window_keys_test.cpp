@@ -23,7 +23,7 @@ protected:
     }
 
     // As the user presses it, wherever the focus is. A button acts when its key has been seen.
-    void press_key(QKeySequence keys) {
+    void press_key(const QKeySequence& keys) {
         const QKeyCombination key = keys[0];
         QTest::keyClick(window->mainwindow, key.key(), key.keyboardModifiers());
         for (QAbstractButton* button : window->mainview->findChildren<QAbstractButton*>()) {
