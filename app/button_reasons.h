@@ -17,3 +17,6 @@ struct button_reasons {
 
 // Of a chip with any field values. Any thread.
 button_reasons reasons_of(const krchip& chip, const text_lookup& texts);
+
+// While the enclosure restarts, every button is off whatever the chip's record says. Any thread.
+button_reasons reasons_while_restarting(const text_lookup& texts);

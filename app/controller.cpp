@@ -40,6 +40,7 @@ controller::controller(const window_parts& parts)
       panels_(parts.panels != nullptr ? *parts.panels : own_panels_),
       tree_model_(std::make_unique<tree_model>()),
       now_(parts.now) {
+    watch_pace();
     build_window_contents(*this);
     own_panels_.show_over(mainview);
     guard_.always_serve(minimizebutton, true);
@@ -144,8 +145,10 @@ void controller::obey_remembered_exit() {
 
 void controller::show_error_and_exit(const std::string& /*message*/) {
     ui([this] {
-        tell({panel_kind::error, localised("error"), localised("error"), {localised("ok")}},
-             urgency::critical);
+        const std::string error = localised("error");
+        // The list may still name a bridge that this is not about.
+        notify_and_ask({panel_kind::error, error, error, {localised("ok")}}, error,
+                       urgency::critical);
         j.with.exit.leave(status_fatal);
     });
 }
@@ -173,15 +176,19 @@ void controller::inform(const std::string& title, const std::string& message, ur
     });
 }
 
-// Messages only: a question belongs to what the user does in the window.
-void controller::tell(const panel_request& message, urgency how) {
+// What the user asks for in the window is asked about there alone; this is for what comes unasked.
+int controller::tell(const panel_request& message, urgency how) {
     const QString enclosure = controllerselectbox->currentText();
     const std::string text =
         enclosure.isEmpty() ? message.message : message.message + "\n" + enclosure.toStdString();
+    return notify_and_ask(message, text, how);
+}
+
+int controller::notify_and_ask(const panel_request& message, const std::string& text, urgency how) {
     const panel_notice outside(
         desktop_, mainwindow,
         {message.title, text, localised("ui_open_window"), how == urgency::critical});
-    panels_.ask(message);
+    return panels_.ask(message);
 }
 
 std::string controller::localised(const char* key) const {

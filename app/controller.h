@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStackedWidget>
+#include <QTimer>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -208,7 +209,10 @@ private:
     void on_click(QPushButton* button, std::function<void()> action);
     void connect_actions();
     void inform(const std::string& title, const std::string& message, urgency how);
-    void tell(const panel_request& message, urgency how);
+    int tell(const panel_request& message, urgency how);
+    int notify_and_ask(const panel_request& message, const std::string& text, urgency how);
+    void watch_pace();
+    void forget_pace();
     std::string localised(const char* key) const;
     void create_window();
     void load_dialog_words();
@@ -226,8 +230,8 @@ private:
     void bring_rebuild_tab(bool gate_grants);
 
     change_plan plan_for_selected(array_change what, int mode) const;
+    bool with_scenes(const std::function<bool()>& operation);
     bool granted(const char* question, const change_plan& plan);
-    bool answered_yes(const panel_request& request);
     outcome carry_out(const change_plan& plan,
                       const std::function<bool(std::int32_t chip)>& operation);
     outcome may_begin(const change_plan& plan);
@@ -256,5 +260,6 @@ private:
     std::unique_ptr<tree_model> tree_model_;
     bool exit_remembered_ = false;
     const std::function<copy_pace::time_point()> now_;
-    copy_pace pace_; // of the rebuild that is shown
+    copy_pace pace_;    // of the rebuild that is shown
+    QTimer pace_watch_; // runs out when no reading of it comes any more
 };

@@ -18,11 +18,13 @@
 #include "model/rescan.h"
 
 void controller::on_click(QPushButton* button, std::function<void()> action) {
-    QObject::connect(button, &QPushButton::clicked, button, [this, act = std::move(action)] {
-        if (idle()) {
-            act();
-        }
-    });
+    QObject::connect(button, &QPushButton::clicked, button,
+                     [this, button, act = std::move(action)] {
+                         // A key clicks a moment later: the button may have been disabled since.
+                         if (idle() && button->isEnabled()) {
+                             act();
+                         }
+                     });
 }
 
 void controller::connect_actions() {
@@ -95,6 +97,7 @@ void controller::stopprogressbar() {
     ui([this] {
         outlets.set_hidden(levelindicator, true);
         outlets.set_enabled(levelindicator, false);
+        forget_pace();
     });
 }
 
@@ -118,10 +121,30 @@ void controller::updatepoll(std::uint64_t end, std::uint64_t currlba, bool diskp
     ui([&] {
         outlets.set_level(levelindicator, percent);
         outlets.set_text(percentagefield, QString::number(percent, 'f', 1).toStdString() + "%");
-        if (end != 0) {
+        if (end == 0 || diskp100) {
+            forget_pace();
+        } else {
             show_pace(*this, pace_.note(end, currlba, now_()));
+            pace_watch_.start();
         }
     });
+}
+
+// A chip that is not read any more is not told from one that stands still.
+void controller::watch_pace() {
+    pace_watch_.setSingleShot(true);
+    pace_watch_.setInterval(copy_pace::stalled_after);
+    QObject::connect(&pace_watch_, &QTimer::timeout, mainview, [this] {
+        pace_view standing;
+        standing.stalled = true;
+        show_pace(*this, standing);
+    });
+}
+
+void controller::forget_pace() {
+    pace_.forget();
+    pace_watch_.stop();
+    show_pace(*this, {});
 }
 
 void controller::show_message(const std::string& text) {

@@ -1,10 +1,12 @@
 // Changes of the array: asked for, confirmed, carried out.
+#include "app/button_reasons.h"
 #include "app/controller.h"
 #include "app/controller_box.h"
 #include "app/display_text.h"
 #include "app/radio_matrix.h"
 #include "app/safety_copy.h"
 #include "app/scene.h"
+#include "app/scene_outlook.h"
 #include "app/window_extras.h"
 #include "model/krtool.h"
 
@@ -27,8 +29,7 @@ void controller::confirm() {
     const outcome end = carry_out(plan, [this, mode](std::int32_t chip) {
         cleargui();
         disablegui(false);
-        ui([this] { show_changing_scene(*this); });
-        return j.build_raid(chip, mode, true);
+        return with_scenes([chip, mode] { return j.build_raid(chip, mode, true); });
     });
     report_and_refresh(end, "raid_create_error");
 }
@@ -40,10 +41,19 @@ void controller::clearconfiguration() {
     }
     const outcome end = carry_out(plan, [this](std::int32_t chip) {
         cleargui();
-        ui([this] { show_changing_scene(*this); });
-        return j.clear_raid(chip);
+        return with_scenes([chip] { return j.clear_raid(chip); });
     });
     report_and_refresh(end, "raid_delete_error");
+}
+
+// The blanked window says what goes on. Nobody else shows anything while the caller has the gate.
+bool controller::with_scenes(const std::function<bool()>& operation) {
+    ui([this] { show_changing_scene(*this); });
+    const bool done = operation();
+    if (done) {
+        ui([this] { show_restarting_scene(*this); });
+    }
+    return done;
 }
 
 void controller::rebuild0to1() {
@@ -100,6 +110,7 @@ void controller::warmboot() {
             return;
         }
         disablegui(false);
+        ui([this] { show_reasons(*this, reasons_while_restarting(j.with.texts)); });
         j.warm_boot();
     });
 }
@@ -118,14 +129,9 @@ bool controller::granted(const char* question, const change_plan& plan) {
     if (plan.has_chip) {
         request.plan = describe(plan, check_OS_version(), j.with.texts);
     }
-    const bool yes = answered_yes(request);
+    const bool yes = is_yes(panels_.ask(request));
     obey_remembered_exit();
     return yes;
-}
-
-bool controller::answered_yes(const panel_request& request) {
-    const int answer = panels_.ask(request);
-    return answer != panel_second && answer != panel_failed;
 }
 
 controller::outcome controller::carry_out(const change_plan& plan,
@@ -176,10 +182,11 @@ bool controller::goes_on_without_copy(const std::string& trouble) {
     const gate_pause others_may_work(j.gate);
     bool go_on = false;
     ui([&] {
-        go_on = !exit_remembered_ && answered_yes({panel_kind::warning,
-                                                   s_warning,
-                                                   filled(localised("ui_copy_failed"), {trouble}),
-                                                   {s_ok, s_cancel}});
+        const panel_request question{panel_kind::warning,
+                                     s_warning,
+                                     filled(localised("ui_copy_failed"), {trouble}),
+                                     {s_ok, s_cancel}};
+        go_on = !exit_remembered_ && is_yes(tell(question, urgency::critical));
     });
     return go_on;
 }

@@ -14,16 +14,6 @@
 #include "model/krtool.h"
 #include "model/monitors.h"
 
-namespace {
-
-// For those who hear the window.
-std::string state_in_words(const view_state& view, const outlook& now) {
-    const std::string array = view.raid_valid ? view.raidmodelabel + ": " : "";
-    return array + now.word + ". " + now.advice;
-}
-
-} // namespace
-
 struct controller::disk_outlets {
     text_field* modelfield;
     text_field* serialfield;
@@ -90,7 +80,7 @@ void controller::cleargui() {
         disablegui(false);
         outlets.needs_display(mainview);
         clear_scene(*this);
-        pace_.forget();
+        forget_pace();
     });
 }
 
@@ -138,7 +128,8 @@ void controller::show_status() {
         if (!view.blank) {
             const outlook now = outlook_of(current->chip, decimal_units, j.with.texts);
             apply(view, now);
-            announce(mainview, one_line(state_in_words(view, now)));
+            const std::string array = view.raid_valid ? view.raidmodelabel : std::string();
+            announce(mainview, one_line(in_words(now, array, j.with.texts)));
         } else if (!j.has_chips()) {
             show_empty_scene(*this);
             announce(mainview, one_line(localised("ui_no_enclosure")));

@@ -8,8 +8,6 @@ constexpr std::uint64_t sector_bytes = 512;
 constexpr seconds window_of_readings(60);
 // A figure that jumps about says less than none.
 constexpr seconds steady_after(12);
-// A disk that tries a bad place again may take so long over it.
-constexpr seconds stalled_after(20);
 
 } // namespace
 

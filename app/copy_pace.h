@@ -18,8 +18,11 @@ class copy_pace {
 public:
     using time_point = std::chrono::steady_clock::time_point;
 
+    // A disk that tries a bad place again may take so long over it.
+    static constexpr std::chrono::seconds stalled_after{20};
+
     // A reading: `end` and `current` count sectors of 512 bytes. Readings of another copy, or
-    // that go back, begin anew.
+    // that go back, begin anew; `now` never goes back.
     pace_view note(std::uint64_t end, std::uint64_t current, time_point now);
     void forget() { readings_.clear(); }
 

@@ -18,6 +18,7 @@ bool concerns_attention(QEvent::Type type) {
     case QEvent::FocusOut:
     case QEvent::EnabledChange:
     case QEvent::Hide:
+    case QEvent::Show:
         return true;
     default:
         return false;
@@ -45,15 +46,36 @@ bool direction_evidence::eventFilter(QObject* receiver, QEvent* event) {
     if (!concerns_attention(event->type())) {
         return false;
     }
-    const int source = receiver == buttons_[0] ? 0 : 1;
-    const auto* button = static_cast<QAbstractButton*>(receiver);
-    const bool looked_at = event->type() == QEvent::Enter || event->type() == QEvent::FocusIn;
-    if (looked_at && button->isEnabled()) {
-        show_direction(source);
-    } else if (shown_) {
+    const std::size_t port = receiver == buttons_[0] ? 0 : 1;
+    switch (event->type()) {
+    case QEvent::Enter:
+    case QEvent::Leave:
+        under_mouse_[port] = event->type() == QEvent::Enter;
+        break;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        focused_[port] = event->type() == QEvent::FocusIn;
+        break;
+    default:
+        break;
+    }
+    show_attention();
+    return false;
+}
+
+// The mouse tells more about what somebody is up to than a focus that stayed behind.
+void direction_evidence::show_attention() {
+    for (const std::array<bool, 2>& attention : {under_mouse_, focused_}) {
+        for (std::size_t port = 0; port < buttons_.size(); ++port) {
+            if (attention[port] && buttons_[port]->isEnabled() && buttons_[port]->isVisible()) {
+                show_direction(static_cast<int>(port));
+                return;
+            }
+        }
+    }
+    if (shown_) {
         show_nothing();
     }
-    return false;
 }
 
 void direction_evidence::show_direction(int source) {

@@ -23,6 +23,7 @@ protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
+    void show_attention();
     void show_direction(int source);
     void show_nothing();
 
@@ -30,5 +31,7 @@ private:
     std::array<rebuild_card, 2> cards_;
     QString stays_;
     QString overwritten_;
+    std::array<bool, 2> under_mouse_{};
+    std::array<bool, 2> focused_{};
     bool shown_ = false; // cards that others have marked are left alone
 };

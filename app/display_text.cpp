@@ -43,7 +43,12 @@ std::string time_of_record(const std::array<unsigned char, raid_time_size>& stam
     const bool is_time = std::all_of(text.begin(), text.end(), [](char character) {
         return character >= '0' && character <= '9';
     });
-    if (!is_time) {
+    const auto within = [&text](std::size_t place, const char* least, const char* most) {
+        const std::string number = text.substr(place, 2);
+        return number >= least && number <= most;
+    };
+    if (!is_time || !within(4, "01", "12") || !within(6, "01", "31") || !within(8, "00", "23") ||
+        !within(10, "00", "59")) {
         return {};
     }
     return text.substr(0, 4) + "-" + text.substr(4, 2) + "-" + text.substr(6, 2) + " " +

@@ -1,7 +1,5 @@
 #include "app/guide.h"
 
-#include <QDialog>
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -12,14 +10,12 @@
 #include "app/display_text.h"
 #include "app/overlay.h"
 #include "app/panel_texts.h"
-#include "app/placing.h"
 #include "app/plain_text.h"
 #include "app/text_field.h"
 
 namespace {
 
 constexpr int guide_width = 680;
-constexpr QMargins margins(27, 25, 27, 21); // inside the border
 constexpr int picture_width = 116;
 constexpr int step_distance = 16;
 
@@ -79,7 +75,7 @@ QWidget* picture_of(std::size_t step) {
     return picture;
 }
 
-class guide_dialog final : public QDialog {
+class guide_dialog final : public overlay_dialog {
 public:
     guide_dialog(QWidget* parent, const text_lookup& texts);
 
@@ -93,23 +89,17 @@ private:
 };
 
 guide_dialog::guide_dialog(QWidget* parent, const text_lookup& texts)
-    : QDialog(parent), texts_(texts) {
-    setWindowFlags(Qt::Widget);
+    : overlay_dialog(parent), texts_(texts) {
     setObjectName(QStringLiteral("guide"));
     setAccessibleName(localised("ui_guide"));
-    auto* frame = with_role(new QFrame, "panel");
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(frame);
-    auto* inner = new QVBoxLayout(frame);
-    inner->setContentsMargins(margins);
+    QVBoxLayout* inner = make_frame();
     inner->setSpacing(step_distance);
     inner->addLayout(make_head());
     for (std::size_t number = 0; number < steps.size(); ++number) {
         inner->addLayout(make_step(number));
     }
     inner->addLayout(make_foot());
-    setFixedSize(guide_width, outer->heightForWidth(guide_width));
+    setFixedSize(guide_width, layout()->heightForWidth(guide_width));
 }
 
 QLayout* guide_dialog::make_head() const {
@@ -139,14 +129,10 @@ QLayout* guide_dialog::make_step(std::size_t number) const {
 }
 
 QLayout* guide_dialog::make_foot() {
-    constexpr QSize least_button(112, 38);
     auto* row = new QHBoxLayout;
     row->setSpacing(20);
     row->addWidget(wrapped_text(localised("ui_guide_no_copy"), "small"), 1);
-    auto* close = new QPushButton(button_text(texts_.text("ui_close")));
-    close->setObjectName(QStringLiteral("guide_close"));
-    close->setAccessibleName(localised("ui_close"));
-    close->setMinimumSize(least_button);
+    QPushButton* close = make_button(texts_.text("ui_close"), "guide_close");
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     row->addWidget(close, 0, Qt::AlignBottom);

@@ -61,6 +61,12 @@ bool repeats_an_answer(const QEvent& event) {
                                     press.key() == Qt::Key_Space);
 }
 
+// Actions are asked for one at a time, however long their key is held.
+bool is_repeated_shortcut(const QEvent& event) {
+    return event.type() == QEvent::ShortcutOverride &&
+           static_cast<const QKeyEvent&>(event).isAutoRepeat();
+}
+
 bool inside(const QWidget* widget, const QWidget* area) {
     return area != nullptr && (widget == area || area->isAncestorOf(widget));
 }
@@ -105,6 +111,10 @@ QWidget* input_guard::topmost_panel() const {
 }
 
 bool input_guard::eventFilter(QObject* receiver, QEvent* event) {
+    if (is_repeated_shortcut(*event)) {
+        event->accept(); // the key may still scroll or edit
+        return true;
+    }
     if (idle() || !is_input(event->type())) {
         return false;
     }

@@ -9,7 +9,7 @@ class QWidget;
 
 // While work is under way or a panel is open, mouse, keys, wheel, touch and shortcuts reach only
 // the topmost open panel and the widgets that are always served; everything else is dropped, not
-// kept for later. Interface thread.
+// kept for later. The key of an action that is held down acts once. Interface thread.
 class input_guard final : public QObject {
 public:
     input_guard();

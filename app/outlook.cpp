@@ -24,10 +24,10 @@ verdict verdict_on(const krchip& chip) {
         return verdict::no_disks;
     }
     if (chip.raid_valid != 0) {
-        if (chip.rebuild_pending != 0) {
-            return verdict::rebuilding;
+        if (!is_array_mode(chip.raid_mode)) {
+            return verdict::not_configured;
         }
-        return is_array_mode(chip.raid_mode) ? verdict::healthy : verdict::not_configured;
+        return chip.rebuild_pending != 0 ? verdict::rebuilding : verdict::healthy;
     }
     if (is_broken(d0) || is_broken(d1)) {
         return verdict::broken;
@@ -62,6 +62,15 @@ const char* key_of(verdict is) {
     return "";
 }
 
+// No line ends between a number and its unit.
+std::string unbroken(std::string text) {
+    constexpr const char* no_break_space = "\xC2\xA0";
+    for (std::size_t at = text.find(' '); at != std::string::npos; at = text.find(' ', at)) {
+        text.replace(at, 1, no_break_space);
+    }
+    return text;
+}
+
 std::string title_of_rebuild(std::size_t source, const text_lookup& texts) {
     const std::string word = texts.text("rebuild");
     return source == 0 ? word + "->" : "<-" + word;
@@ -72,8 +81,13 @@ std::size_t source_port(const krchip& chip) {
     return chip.disks[0].rebuild_mark != 0 ? 0 : 1;
 }
 
+// A stray mark on a stripe or a span counts as a rebuild, but nothing is copied there.
+bool is_copying(const krchip& chip, verdict is) {
+    return is == verdict::rebuilding && chip.raid_mode == mode_raid1;
+}
+
 std::string state_of(const krchip& chip, verdict is, const text_lookup& texts) {
-    if (is == verdict::rebuilding) {
+    if (is_copying(chip, is)) {
         const std::size_t source = source_port(chip);
         return filled(texts.text("ui_state_copying"), {number_of(source), number_of(1 - source)});
     }
@@ -89,15 +103,18 @@ std::string advice_on_array(const krchip& chip, const text_lookup& texts) {
         return texts.text("ui_advice_stripe");
     case mode_span:
         return texts.text("ui_advice_span");
-    default:
+    case mode_raid1:
         return texts.text("ui_advice_mirror");
+    default:
+        return texts.text("ui_advice_unknown");
     }
 }
 
 std::string advice_on_plain_disks(const krchip& chip, const text_lookup& texts) {
     for (std::size_t port = 0; port < chip.disks.size(); ++port) {
         if (chip.disks[port].present == 0) {
-            return filled(texts.text("ui_advice_one_disk"), {number_of(port)});
+            return filled(texts.text("ui_advice_one_disk"),
+                          {number_of(port), texts.text("refresh_button")});
         }
     }
     return filled(texts.text("ui_advice_pair"), {texts.text("create_raid")});
@@ -107,7 +124,7 @@ std::string advice_on_one_copy(const krchip& chip, bool decimal_units, const tex
     const std::size_t holder = holds_mirror(chip.disks[0]) ? 0 : 1;
     const std::size_t other = 1 - holder;
     const std::uint64_t needed = chip.disks[holder].raid_capacity;
-    const std::string size = capacity_text(needed, decimal_units);
+    const std::string size = unbroken(capacity_text(needed, decimal_units));
     if (chip.disks[other].present == 0) {
         return filled(texts.text("ui_advice_missing"), {number_of(other), number_of(holder), size});
     }
@@ -118,7 +135,18 @@ std::string advice_on_one_copy(const krchip& chip, bool decimal_units, const tex
                   {number_of(holder), number_of(other), title_of_rebuild(holder, texts)});
 }
 
+// Nothing checks whose halves they are: the records have to say so themselves.
+bool belong_together(const krdisk& one, const krdisk& other) {
+    const auto suits = [](const krdisk& disk, const krdisk& partner) {
+        return disk.names(partner) || disk.names_nobody();
+    };
+    return suits(one, other) && suits(other, one) && one.raid_capacity == other.raid_capacity;
+}
+
 std::string advice_on_two_copies(const krchip& chip, const text_lookup& texts) {
+    if (!belong_together(chip.disks[0], chip.disks[1])) {
+        return texts.text("ui_advice_differ_undated");
+    }
     for (std::size_t port = 0; port < chip.disks.size(); ++port) {
         if (chip.disks[port].rebuild_role == role_later) {
             return filled(texts.text("ui_advice_differ"), {number_of(port)});
@@ -128,20 +156,25 @@ std::string advice_on_two_copies(const krchip& chip, const text_lookup& texts) {
 }
 
 std::string advice_on_halves(const krchip& chip, const text_lookup& texts) {
+    const std::string refresh = texts.text("refresh_button");
     for (std::size_t port = 0; port < chip.disks.size(); ++port) {
         const krdisk& other = chip.disks[1 - port];
+        if (holds_mirror(other)) {
+            return filled(texts.text("ui_advice_beside_half"),
+                          {number_of(1 - port), number_of(port)});
+        }
         if (is_broken(chip.disks[port]) && (other.present == 0 || !other.is_member())) {
-            return filled(texts.text("ui_advice_half"), {number_of(port)});
+            return filled(texts.text("ui_advice_half"), {number_of(port), refresh});
         }
     }
-    return texts.text("ui_advice_halves");
+    return filled(texts.text("ui_advice_halves"), {refresh});
 }
 
 std::string advice_on(const krchip& chip, verdict is, bool decimal_units,
                       const text_lookup& texts) {
     switch (is) {
     case verdict::no_disks:
-        return texts.text("ui_advice_no_disks");
+        return filled(texts.text("ui_advice_no_disks"), {texts.text("refresh_button")});
     case verdict::healthy:
         return advice_on_array(chip, texts);
     case verdict::degraded:
@@ -151,8 +184,14 @@ std::string advice_on(const krchip& chip, verdict is, bool decimal_units,
     case verdict::broken:
         return advice_on_halves(chip, texts);
     case verdict::rebuilding:
-        return filled(texts.text("ui_advice_rebuilding"), {number_of(source_port(chip))});
+        return is_copying(chip, is)
+                   ? filled(texts.text("ui_advice_rebuilding"), {number_of(source_port(chip))})
+                   : advice_on_array(chip, texts);
     case verdict::not_configured:
+        if (chip.raid_valid != 0) {
+            return advice_on_array(chip, texts);
+        }
+        break;
     case verdict::no_enclosure:
     case verdict::scanning:
         break;
@@ -177,7 +216,7 @@ std::optional<int> row_of(const krchip& chip) {
 }
 
 copy_side side_of(const krchip& chip, std::size_t port, verdict is, const text_lookup& texts) {
-    if (is == verdict::rebuilding) {
+    if (is_copying(chip, is)) {
         return {texts.text(port == source_port(chip) ? "ui_source" : "ui_target"), {}};
     }
     const krdisk& disk = chip.disks[port];
@@ -206,10 +245,9 @@ outlook outlook_of(const krchip& chip, bool decimal_units, const text_lookup& te
     made.state = state_of(chip, made.is, texts);
     made.advice = advice_on(chip, made.is, decimal_units, texts);
     made.kind_in_use = row_of(chip);
-    made.create_is_next = made.is == verdict::not_configured && chip.disks[0].present != 0 &&
-                          chip.disks[1].present != 0;
-    made.failure = made.is == verdict::degraded || made.is == verdict::copies_differ ||
-                   made.is == verdict::broken;
+    made.create_is_next = made.is == verdict::not_configured && chip.raid_valid == 0 &&
+                          chip.disks[0].present != 0 && chip.disks[1].present != 0;
+    made.failure = made.is == verdict::degraded || made.is == verdict::broken;
     made.reasons = reasons_of(chip, texts);
     made.sides = {side_of(chip, 0, made.is, texts), side_of(chip, 1, made.is, texts)};
     return made;
@@ -221,4 +259,11 @@ outlook outlook_without_enclosure(const text_lookup& texts) {
 
 outlook outlook_while_scanning(const text_lookup& texts) {
     return without_chip(verdict::scanning, nullptr, "ui_reason_scanning", texts);
+}
+
+std::string in_words(const outlook& now, const std::string& array, const text_lookup& texts) {
+    if (array.empty()) {
+        return filled(texts.text("ui_said"), {now.word, now.advice});
+    }
+    return filled(texts.text("ui_said_array"), {array, now.word, now.advice});
 }

@@ -36,7 +36,7 @@ struct outlook {
     std::string advice;             // what it means and what can be done, at most two lines
     std::optional<int> kind_in_use; // row of the array kinds
     bool create_is_next = false;    // nothing is more natural than to create an array
-    bool failure = false;           // something is lost or about to be: the guide helps
+    bool failure = false;           // a disk is lost: the guide helps
     button_reasons reasons;
     std::array<copy_side, 2> sides; // index = port
 };
@@ -47,3 +47,7 @@ outlook outlook_of(const krchip& chip, bool decimal_units, const text_lookup& te
 // While there is no chip to speak of. Any thread.
 outlook outlook_without_enclosure(const text_lookup& texts);
 outlook outlook_while_scanning(const text_lookup& texts);
+
+// For those who hear the window: the array by name, unless it is empty, the verdict and the advice.
+// Any thread.
+std::string in_words(const outlook& now, const std::string& array, const text_lookup& texts);

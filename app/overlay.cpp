@@ -1,15 +1,17 @@
 #include "app/overlay.h"
 
-#include <QApplication>
-#include <QDialog>
 #include <QEventLoop>
+#include <QFrame>
 #include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
+#include <QVBoxLayout>
 #include <QVariantAnimation>
 
 #include "app/input_guard.h"
+#include "app/placing.h"
+#include "app/plain_text.h"
 
 namespace {
 
@@ -50,34 +52,72 @@ private:
     double darkness_ = 1.0;
 };
 
-// Where a screen reader starts: it reads the dialog around the button first. A focus proxy of the
-// dialog would have it say that both have the focus.
-void focus_default_button(const QDialog& dialog) {
-    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+} // namespace
+
+overlay_dialog::overlay_dialog(QWidget* parent) : QDialog(parent) {
+    setWindowFlags(Qt::Widget);
+}
+
+QVBoxLayout* overlay_dialog::make_frame() {
+    constexpr QMargins margins(27, 25, 27, 21); // inside the border
+    auto* frame = with_role(new QFrame, "panel");
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(frame);
+    auto* inner = new QVBoxLayout(frame);
+    inner->setContentsMargins(margins);
+    return inner;
+}
+
+QPushButton* overlay_dialog::make_button(const std::string& text, const char* name) {
+    constexpr QSize least(112, 38);
+    auto* button = new QPushButton(button_text(text));
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(one_line(text));
+    button->setMinimumSize(least);
+    // With the focus on it, the Return key means this button and not the default one.
+    button->setAutoDefault(true);
+    buttons_.append(button);
+    return button;
+}
+
+void overlay_dialog::focus_default_button() {
+    for (QPushButton* button : buttons_) {
         if (button->isDefault()) {
             button->setFocus(Qt::OtherFocusReason);
         }
     }
 }
 
-} // namespace
+bool overlay_dialog::focusNextPrevChild(bool next) {
+    const auto at = buttons_.indexOf(qobject_cast<QPushButton*>(focusWidget()));
+    const auto count = buttons_.size();
+    const auto step = next ? 1 : count - 1;
+    buttons_[(at + step + count) % count]->setFocus(next ? Qt::TabFocusReason
+                                                         : Qt::BacktabFocusReason);
+    return true;
+}
 
 int run_over(QWidget* window, input_guard& guard,
-             const std::function<QDialog*(QWidget* parent)>& make) {
-    const QPointer<QWidget> focused = QApplication::focusWidget();
+             const std::function<overlay_dialog*(QWidget* parent)>& make) {
+    // The window may be behind others, which have the focus then.
+    const QPointer<QWidget> focused = window->window()->focusWidget();
     scrim shade(window);
-    QDialog* dialog = make(&shade);
+    overlay_dialog* dialog = make(&shade);
     dialog->move((window->width() - dialog->width()) / 2,
                  (window->height() - dialog->height()) / 2);
     shade.show();
     shade.raise();
     guard.open_panel(dialog);
     dialog->show();
-    focus_default_button(*dialog);
+    dialog->focus_default_button();
     QEventLoop loop;
-    QObject::connect(dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+    // At once: another dialog may lie over this one and end later.
+    QObject::connect(dialog, &QDialog::finished, &loop, [&] {
+        guard.close_panel(dialog);
+        loop.quit();
+    });
     loop.exec();
-    guard.close_panel(dialog);
     const bool usable = focused && focused->isEnabled() && focused->isVisible();
     (usable ? focused.data() : window)->setFocus();
     return dialog->result();

@@ -13,13 +13,19 @@ std::string number(std::chrono::seconds::rep value) {
 
 std::string speed_text(const pace_view& pace, const text_lookup& texts) {
     constexpr std::uint64_t megabyte = 1'000'000;
+    constexpr std::uint64_t ten = 10;
     if (pace.stalled) {
         return texts.text("ui_stalled");
     }
     if (!pace.bytes_per_second) {
         return {};
     }
-    return inttostring(*pace.bytes_per_second / megabyte) + " MB/s";
+    const std::uint64_t whole = *pace.bytes_per_second / megabyte;
+    if (whole >= ten) {
+        return inttostring(whole) + " MB/s";
+    }
+    const std::uint64_t tenths = *pace.bytes_per_second % megabyte / (megabyte / ten);
+    return inttostring(whole) + "." + inttostring(tenths) + " MB/s";
 }
 
 std::string time_left_text(const pace_view& pace, const text_lookup& texts) {

@@ -6,7 +6,8 @@
 #include "app/copy_pace.h"
 #include "model/services.h"
 
-// "148 MB/s", of millions of bytes; "stalled"; empty while nothing is known.
+// "148 MB/s", of millions of bytes, with a decimal below ten; "stalled"; empty while nothing is
+// known.
 std::string speed_text(const pace_view& pace, const text_lookup& texts);
 
 // "about 2 h 20 min left", rounded down to whole minutes; empty while nothing is known.

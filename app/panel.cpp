@@ -2,9 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QFrame>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -21,14 +19,11 @@ namespace {
 
 constexpr QSize least_size(520, 196);
 constexpr QSize least_size_with_plan(632, 368);
-constexpr QMargins margins(27, 25, 27, 21); // inside the border
 constexpr int icon_size = 32;
 constexpr int title_height = 26;
 constexpr int line_height = 18;
 constexpr int least_distance = 18; // below the texts
 constexpr int plan_distance = 24;  // below the cards
-constexpr int button_width = 112;
-constexpr int button_height = 38;
 
 const char* icon_of(panel_kind kind) {
     switch (kind) {
@@ -42,40 +37,20 @@ const char* icon_of(panel_kind kind) {
     return "panel-info";
 }
 
-// A dialog inside the window: the keys go round its own buttons only.
-class panel_dialog final : public QDialog {
+class panel_dialog final : public overlay_dialog {
 public:
     panel_dialog(QWidget* parent, const panel_request& request);
-
-    // 1 or 0, once it has been answered.
-    int answer() const {
-        return two_buttons_ && result() != Accepted ? panel_second : panel_default;
-    }
-
-protected:
-    bool focusNextPrevChild(bool next) override;
 
 private:
     QLayout* make_head(const panel_request& request);
     QLayout* make_buttons(const panel_request& request);
-    QPushButton* make_button(const std::string& text, const char* name);
-
-    const bool two_buttons_;
-    QList<QPushButton*> buttons_; // in the order of the tab key
 };
 
-panel_dialog::panel_dialog(QWidget* parent, const panel_request& request)
-    : QDialog(parent), two_buttons_(request.buttons.size() > 1) {
-    setWindowFlags(Qt::Widget);
+panel_dialog::panel_dialog(QWidget* parent, const panel_request& request) : overlay_dialog(parent) {
     setObjectName(QStringLiteral("panel"));
     setAccessibleName(one_line(request.title));
     setAccessibleDescription(one_line(request.message));
-    auto* frame = with_role(new QFrame, "panel");
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(frame);
-    auto* inner = new QVBoxLayout(frame);
-    inner->setContentsMargins(margins);
+    QVBoxLayout* inner = make_frame();
     inner->setSpacing(0);
     inner->addLayout(make_head(request));
     inner->addSpacing(least_distance);
@@ -86,7 +61,7 @@ panel_dialog::panel_dialog(QWidget* parent, const panel_request& request)
     }
     inner->addLayout(make_buttons(request));
     const QSize least = request.plan ? least_size_with_plan : least_size;
-    setFixedSize(least.width(), qMax(least.height(), outer->heightForWidth(least.width())));
+    setFixedSize(least.width(), qMax(least.height(), layout()->heightForWidth(least.width())));
 }
 
 QLayout* panel_dialog::make_head(const panel_request& request) {
@@ -111,37 +86,18 @@ QLayout* panel_dialog::make_buttons(const panel_request& request) {
     row->setSpacing(12);
     const QString enclosure = request.plan ? one_line(request.plan->enclosure) : QString();
     row->addWidget(one_line_text(enclosure, line_height, "fine", "quiet"), 1);
-    if (two_buttons_) {
+    const bool two_buttons = request.buttons.size() > 1;
+    if (two_buttons) {
         QPushButton* second = make_button(request.buttons[1], "panel_second_button");
         connect(second, &QPushButton::clicked, this, &QDialog::reject);
         row->addWidget(second);
     }
     QPushButton* first = make_button(request.buttons.front(), "panel_default_button");
     first->setDefault(true);
-    first->setProperty("kind", two_buttons_ ? "destructive" : "");
+    first->setProperty("kind", two_buttons ? "destructive" : "");
     connect(first, &QPushButton::clicked, this, &QDialog::accept);
     row->addWidget(first);
     return row;
-}
-
-QPushButton* panel_dialog::make_button(const std::string& text, const char* name) {
-    auto* button = new QPushButton(button_text(text));
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(one_line(text));
-    button->setMinimumSize(button_width, button_height);
-    // With the focus on it, the Return key means this button and not the default one.
-    button->setAutoDefault(true);
-    buttons_.append(button);
-    return button;
-}
-
-bool panel_dialog::focusNextPrevChild(bool next) {
-    const auto at = buttons_.indexOf(qobject_cast<QPushButton*>(focusWidget()));
-    const auto count = buttons_.size();
-    const auto step = next ? 1 : count - 1;
-    buttons_[(at + step + count) % count]->setFocus(next ? Qt::TabFocusReason
-                                                         : Qt::BacktabFocusReason);
-    return true;
 }
 
 } // namespace
@@ -150,15 +106,12 @@ int run_panel(QWidget* window, input_guard& guard, const panel_request& request)
     if (window == nullptr || request.buttons.empty()) {
         return panel_failed;
     }
-    panel_dialog* panel = nullptr;
-    int answer = panel_failed;
-    run_over(window, guard, [&](QWidget* parent) {
-        panel = new panel_dialog(parent, request);
-        QObject::connect(panel, &QDialog::finished, panel, [&] { answer = panel->answer(); });
+    const int result = run_over(window, guard, [&](QWidget* parent) {
         QApplication::alert(window);
-        return panel;
+        return new panel_dialog(parent, request);
     });
-    return answer;
+    const bool two_buttons = request.buttons.size() > 1;
+    return two_buttons && result != QDialog::Accepted ? panel_second : panel_default;
 }
 
 void dismiss_topmost_panel(const input_guard& guard) {

@@ -25,6 +25,11 @@ inline constexpr int panel_default = 1;
 inline constexpr int panel_second = 0;
 inline constexpr int panel_failed = -2;
 
+// Any answer but these two grants what was asked for.
+constexpr bool is_yes(int answer) {
+    return answer != panel_second && answer != panel_failed;
+}
+
 // Who answers panels: the user, or a test. Interface thread.
 class panel_answers {
 public:

@@ -65,6 +65,9 @@ void radio_matrix::set_in_use(std::optional<int> row) {
                                     name.width() - name_width - gap, name.height());
         widgets.in_use->fit_text(Qt::AlignLeft);
         widgets.in_use->set_value(row == other ? in_use_text_ : QString());
+        const QString meaning = widgets.meaning->text();
+        widgets.button->setAccessibleDescription(
+            row == other ? QStringLiteral("%1 (%2)").arg(meaning, in_use_text_) : meaning);
     }
 }
 

@@ -5,7 +5,12 @@
 #include <QPushButton>
 #include <array>
 
+#include "app/announcement.h"
+#include "app/button_reasons.h"
 #include "app/controller.h"
+#include "app/controller_box.h"
+#include "app/display_text.h"
+#include "app/krview.h"
 #include "app/level_indicator.h"
 #include "app/numbered_step.h"
 #include "app/outlook.h"
@@ -35,19 +40,19 @@ QString localised(const char* key) {
     return one_line(j.with.texts.text(key));
 }
 
-void show_note(const status_extras& extras, const char* heading, const char* text,
+void show_note(const status_extras& extras, const char* heading, const QString& text,
                int heading_top) {
     constexpr int text_distance = 34;
     place(extras.note_heading, QRect(404, heading_top, 352, 28));
     place(extras.note_text, QRect(404, heading_top + text_distance, 352, 54));
     extras.note_heading->set_value(localised(heading));
     extras.note_heading->show();
-    extras.note_text->set_value(text == nullptr ? QString() : localised(text));
+    extras.note_text->set_value(text);
     extras.note_text->show();
 }
 
 // Something goes on with disks of which nothing is known at the moment.
-void show_work(controller& window, const char* heading, const char* text) {
+void show_work(controller& window, const char* heading, const QString& text) {
     constexpr int heading_top = 144;
     clear_scene(window);
     const status_extras& extras = window.extras->status;
@@ -83,9 +88,6 @@ void clear_scene(controller& window) {
     for (std::size_t port = 0; port < extras.cards.size(); ++port) {
         clear_disk_scene(window, port);
     }
-    extras.speed->set_value(QString());
-    extras.time_left->set_value(QString());
-    window.levelindicator->set_stalled(false);
     extras.hint_icon->show();
     extras.rebuild_hint->show();
     window.raidconfigradiobutton->setEnabled(false);
@@ -95,18 +97,29 @@ void clear_scene(controller& window) {
 }
 
 void show_scanning_scene(controller& window) {
-    show_work(window, "ui_scanning", "ui_scanning_advice");
+    show_work(window, "ui_scanning", localised("ui_scanning_advice"));
+    window.controllerselectbox->set_placeholder(localised("ui_scanning"));
     show_outlook(window, outlook_while_scanning(j.with.texts));
 }
 
 void show_changing_scene(controller& window) {
-    show_work(window, "ui_changing", "ui_changing_advice");
+    show_work(window, "ui_changing", localised("ui_changing_advice"));
+    show_reasons(window, reasons_while_restarting(j.with.texts));
+    announce(window.mainview, localised("ui_changing"));
+}
+
+void show_restarting_scene(controller& window) {
+    const std::string advice =
+        filled(j.with.texts.text("ui_restarting_advice"), {j.with.texts.text("refresh_button")});
+    show_work(window, "ui_restarting", one_line(advice));
+    show_reasons(window, reasons_while_restarting(j.with.texts));
 }
 
 void show_empty_scene(controller& window) {
     constexpr int heading_top = 118;
+    window.controllerselectbox->set_placeholder(localised("ui_no_enclosure"));
     const status_extras& extras = window.extras->status;
-    show_note(extras, "ui_no_enclosure", nullptr, heading_top);
+    show_note(extras, "ui_no_enclosure", QString(), heading_top);
     show_picture(extras.enclosure_picture, QStringLiteral("enclosure"), QSize(216, 120));
     extras.enclosure_picture->show();
     for (numbered_step* step : extras.steps) {
@@ -146,6 +159,9 @@ void show_progress_scene(controller& window) {
 
 void show_pace(controller& window, const pace_view& pace) {
     const window_extras& extras = *window.extras;
+    if (pace.stalled) {
+        announce(window.mainview, localised("ui_stalled"));
+    }
     window.levelindicator->set_stalled(pace.stalled);
     set_tone(extras.speed, pace.stalled ? "warn" : "quiet");
     extras.speed->set_value(one_line(speed_text(pace, j.with.texts)));

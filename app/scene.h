@@ -20,8 +20,9 @@ void show_restart_target(controller& window, const std::string& name);
 void clear_scene(controller& window);
 // Bridges are being looked for.
 void show_scanning_scene(controller& window);
-// The array of the chip is being changed.
+// The array of the chip is being changed, and has been changed: the enclosure restarts.
 void show_changing_scene(controller& window);
+void show_restarting_scene(controller& window);
 // There is no bridge.
 void show_empty_scene(controller& window);
 // A chip is shown: its disks, or one volume, and how it stands.

@@ -52,7 +52,9 @@ void caption_status(controller& window) {
     }
     extras.guide_link->setText(button_text(j.with.texts.text("ui_guide_link")));
     extras.guide_link->setAccessibleName(localised("ui_guide_link"));
-    set_tip(extras.guide_link, name_and_key(localised("ui_guide_link"), QKeySequence(Qt::Key_F1)));
+    const QKeySequence guide_key(Qt::Key_F1);
+    set_tip(extras.guide_link, name_and_key(localised("ui_guide_link"), guide_key),
+            guide_key.toString(QKeySequence::NativeText));
     const std::string wait =
         filled(j.with.texts.text("ui_step_wait"), {j.with.texts.text("refresh_button")});
     extras.steps[0]->set_step(1, localised("ui_step_connect"));

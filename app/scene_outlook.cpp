@@ -59,19 +59,21 @@ void show_state_line(const status_extras& extras, const outlook& now) {
     extras.state_icon->setVisible(!now.state.empty() && !well);
 }
 
-void show_reasons(controller& window, const button_reasons& reasons) {
-    set_reason(window.confirmbutton, one_line(reasons.create));
-    set_reason(window.clearconfigbutton, one_line(reasons.clear_array));
-    set_reason(window.rebuild0to1button, one_line(reasons.rebuild[0]));
-    set_reason(window.rebuild1to0button, one_line(reasons.rebuild[1]));
-}
-
 void show_side(const rebuild_card& card, const copy_side& side) {
     card.role->set_value(one_line(side.role));
     card.record->set_value(one_line(side.record));
 }
 
 } // namespace
+
+void show_reasons(controller& window, const button_reasons& reasons) {
+    set_reason(window.confirmbutton, one_line(reasons.create));
+    set_tip(window.raidconfigradiobutton,
+            window.raidconfigradiobutton->isEnabled() ? QString() : one_line(reasons.create));
+    set_reason(window.clearconfigbutton, one_line(reasons.clear_array));
+    set_reason(window.rebuild0to1button, one_line(reasons.rebuild[0]));
+    set_reason(window.rebuild1to0button, one_line(reasons.rebuild[1]));
+}
 
 void show_outlook(controller& window, const outlook& now) {
     const status_extras& extras = window.extras->status;

@@ -51,7 +51,7 @@ constexpr std::array<std::string_view, 43> designed = {
     "device",
 };
 
-constexpr std::array<std::string_view, 106> of_the_window = {
+constexpr std::array<std::string_view, 112> of_the_window = {
     "ui_controllers",
     "ui_system_information",
     "ui_devices",
@@ -68,7 +68,6 @@ constexpr std::array<std::string_view, 106> of_the_window = {
     "ui_span_meaning",
     "ui_not_config_meaning",
     "ui_no_enclosure",
-    "ui_no_enclosure_advice",
     "ui_scanning",
     "ui_scanning_advice",
     "ui_rebuild_hint",
@@ -158,6 +157,13 @@ constexpr std::array<std::string_view, 106> of_the_window = {
     "ui_guide_rebuild_text",
     "ui_guide_no_copy",
     "ui_open_window",
+    "ui_advice_beside_half",
+    "ui_advice_unknown",
+    "ui_restarting",
+    "ui_restarting_advice",
+    "ui_reason_restarting",
+    "ui_said",
+    "ui_said_array",
 };
 
 } // namespace

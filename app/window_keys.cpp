@@ -53,7 +53,7 @@ void give_keys(controller& window) {
         {window.cleardisk1button, Qt::SHIFT | Qt::Key_F8},
         {window.rebuild0to1button, Qt::CTRL | Qt::Key_Right},
         {window.rebuild1to0button, Qt::CTRL | Qt::Key_Left},
-        {window.extras->warmbootbutton, Qt::CTRL | Qt::Key_R},
+        {window.extras->warmbootbutton, Qt::SHIFT | Qt::Key_F9},
         {window.minimizebutton, Qt::CTRL | Qt::Key_M},
         {window.closebutton, Qt::CTRL | Qt::Key_Q},
     }};

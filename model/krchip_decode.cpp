@@ -3,16 +3,11 @@
 
 #include "model/krchip.h"
 #include "model/krtool.h"
-#include "util/functions.h"
 
 namespace {
 
 bool same_mode_and_named(const krdisk& disk, const krdisk& partner) {
-    return partner.present != 0 && partner.raid_mode == disk.raid_mode &&
-           str_equal(disk.partner_model_raw.data(), partner.identify_model_raw.data(),
-                     static_cast<int>(model_size)) &&
-           str_equal(disk.partner_serial_raw.data(), partner.identify_serial_raw.data(),
-                     static_cast<int>(serial_size));
+    return partner.present != 0 && partner.raid_mode == disk.raid_mode && disk.names(partner);
 }
 
 // A mirror member's partner is not checked: either half stands for the whole.

@@ -102,3 +102,16 @@ std::string krdisk::get_display_string(bool port1, bool in_array, bool /*unused*
     label += port1 ? "1: " : "0: ";
     return label + model;
 }
+
+bool krdisk::names(const krdisk& other) const {
+    return str_equal(partner_model_raw.data(), other.identify_model_raw.data(),
+                     static_cast<int>(model_size)) &&
+           str_equal(partner_serial_raw.data(), other.identify_serial_raw.data(),
+                     static_cast<int>(serial_size));
+}
+
+bool krdisk::names_nobody() const {
+    const auto is_zero = [](unsigned char byte) { return byte == 0; };
+    return std::all_of(partner_model_raw.begin(), partner_model_raw.end(), is_zero) &&
+           std::all_of(partner_serial_raw.begin(), partner_serial_raw.end(), is_zero);
+}

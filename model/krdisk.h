@@ -57,6 +57,11 @@ public:
     // without a size, gives an address beyond any disk, which the library refuses.
     std::uint64_t metadata_lba() const { return capacity - metadata_distance; }
 
+    // Whether its record names that disk as the partner, by model and serial number.
+    bool names(const krdisk& other) const;
+    // Whether its record names no partner, as that of a mirror member that runs alone does.
+    bool names_nobody() const;
+
     // Belongs to a RAID 0, RAID 1 or span.
     bool is_member() const { return is_array_mode(raid_mode); }
 };

@@ -239,10 +239,6 @@
         <source></source>
         <translation>Kein Gehäuse angeschlossen</translation>
     </message>
-    <message id="ui_no_enclosure_advice">
-        <source></source>
-        <translation>Verbinden Sie das Gehäuse über USB oder FireWire und schalten Sie es ein. Es erscheint dann von selbst.</translation>
-    </message>
     <message id="ui_scanning">
         <source></source>
         <translation>Suche nach Gehäusen …</translation>
@@ -401,11 +397,11 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>Beide Schächte sind leer. Setzen Sie eine Festplatte ein; sie erscheint hier von selbst.</translation>
+        <translation>Beide Schächte sind leer. Setzen Sie eine Festplatte ein und klicken Sie dann auf „%1“.</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>Schacht %1 ist leer. Setzen Sie dort eine zweite Festplatte ein, um einen Verbund zu erstellen.</translation>
+        <translation>Schacht %1 ist leer. Um einen Verbund zu erstellen, setzen Sie dort eine zweite Festplatte ein und klicken Sie auf „%2“.</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -429,7 +425,7 @@
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1. Um wieder zwei zu haben, kopieren Sie die Daten unten mit „%3“ auf Festplatte %2.</translation>
+        <translation>Nur Festplatte %1 enthält eine Kopie dieses RAID 1. Um wieder zwei zu haben, kopieren Sie diese mit „%3“ auf Festplatte %2; dabei geht alles auf Festplatte %2 verloren.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -445,11 +441,11 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Die Hälfte des Verbunds fehlt. Um an die Daten zu kommen, setzen Sie die andere Festplatte wieder ein. Leeren Sie Festplatte %1 nur, wenn Sie die Daten nicht mehr brauchen.</translation>
+        <translation>Setzen Sie die fehlende Festplatte des Verbunds ein und klicken Sie auf „%2“, um an die Daten zu kommen. Leeren Sie Festplatte %1 nur, wenn Sie die Daten nicht mehr brauchen.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>Die Einträge passen nicht zusammen. Um an Daten zu kommen, setzen Sie beide Platten eines Verbunds ein. Leeren Sie eine Platte nur, wenn Sie ihre Daten nicht mehr brauchen.</translation>
+        <translation>Die Einträge passen nicht zusammen. Für den Zugriff setzen Sie beide Platten eines Verbunds ein und klicken Sie auf „%1“. Leeren Sie keine Platte, deren Daten Sie noch brauchen.</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
@@ -485,7 +481,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>Der Verbund ist nicht vollständig. Leeren Sie die Festplatten einzeln.</translation>
+        <translation>Nur ein vollständiger Verbund lässt sich löschen. Beim Leeren einer Festplatte geht alles verloren, was darauf steht.</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -573,7 +569,7 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>Die Seite „%1“ zeigt, welcher Schacht leer ist. Die Seriennummer der anderen Festplatte steht unter „%2“: Vergleichen Sie sie mit dem Aufkleber, bevor Sie eine Festplatte herausnehmen.</translation>
+        <translation>Fehlt eine Festplatte, zeigt die Seite „%1“ den leeren Schacht. Die Seriennummer der anderen Festplatte steht unter „%2“: Vergleichen Sie sie mit dem Aufkleber, bevor Sie eine Festplatte herausnehmen.</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
@@ -598,6 +594,34 @@
     <message id="ui_open_window">
         <source></source>
         <translation>Fenster anzeigen</translation>
+    </message>
+    <message id="ui_advice_beside_half">
+        <source></source>
+        <translation>Festplatte %1 enthält eine vollständige Kopie eines RAID 1, Festplatte %2 die Hälfte eines anderen Verbunds. Eine Wiederherstellung auf Festplatte %2 löscht diese Hälfte.</translation>
+    </message>
+    <message id="ui_advice_unknown">
+        <source></source>
+        <translation>Die Einträge beider Festplatten nennen eine Verbundart, die dieses Programm nicht kennt. Löschen Sie den Verbund nur, wenn Sie seine Daten nicht mehr brauchen.</translation>
+    </message>
+    <message id="ui_restarting">
+        <source></source>
+        <translation>Das Gehäuse startet neu …</translation>
+    </message>
+    <message id="ui_restarting_advice">
+        <source></source>
+        <translation>Es verschwindet für einige Sekunden. Erscheint es nicht wieder, klicken Sie auf „%1“.</translation>
+    </message>
+    <message id="ui_reason_restarting">
+        <source></source>
+        <translation>Das Gehäuse startet neu. Erscheint es nicht wieder, klicken Sie auf „%1“.</translation>
+    </message>
+    <message id="ui_said">
+        <source></source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="ui_said_array">
+        <source></source>
+        <translation>%1: %2. %3</translation>
     </message>
 </context>
 </TS>

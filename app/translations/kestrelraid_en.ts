@@ -239,10 +239,6 @@
         <source></source>
         <translation>No enclosure connected</translation>
     </message>
-    <message id="ui_no_enclosure_advice">
-        <source></source>
-        <translation>Connect the enclosure by USB or FireWire and switch it on. It appears here by itself.</translation>
-    </message>
     <message id="ui_scanning">
         <source></source>
         <translation>Looking for enclosures…</translation>
@@ -401,11 +397,11 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>Both bays are empty. Insert a disk; it appears here by itself.</translation>
+        <translation>Both bays are empty. Insert a disk, then press “%1”.</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>Bay %1 is empty. To create an array, insert a second disk there.</translation>
+        <translation>Bay %1 is empty. To create an array, insert a second disk there and press “%2”.</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -429,7 +425,7 @@
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Only Disk %1 holds a copy of this RAID 1. To have two again, copy the data onto Disk %2 with the button “%3” below.</translation>
+        <translation>Only Disk %1 holds a copy of this RAID 1. To have two again, copy it onto Disk %2 with “%3”; everything on Disk %2 is then lost.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -445,11 +441,11 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Half of this array is missing. To reach its data, put the other disk back. Clear Disk %1 only if you no longer need the data.</translation>
+        <translation>Half of this array is missing. To reach its data, put the other disk back and press “%2”. Clear Disk %1 only if you no longer need the data.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>The records on the two disks do not match. To reach an array’s data, put both of its disks back. Clear a disk only if you no longer need its data.</translation>
+        <translation>The records on the two disks do not match. To reach an array’s data, put both of its disks back and press “%1”. Clear a disk only if you no longer need its data.</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
@@ -485,7 +481,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>The array is not complete. Clear its disks one by one.</translation>
+        <translation>Only a complete array can be deleted. Clearing a disk erases what is on it.</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -573,7 +569,7 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>The “%1” page shows which bay is empty. The other disk’s serial number is on “%2”: compare it with the label before you take a disk out.</translation>
+        <translation>If a disk is gone, the “%1” page shows which bay is empty. The other disk’s serial number is on “%2”: compare it with the label before you take a disk out.</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
@@ -598,6 +594,34 @@
     <message id="ui_open_window">
         <source></source>
         <translation>Show window</translation>
+    </message>
+    <message id="ui_advice_beside_half">
+        <source></source>
+        <translation>Disk %1 holds a complete copy of a RAID 1, Disk %2 half of another array. A rebuild onto Disk %2 erases that half.</translation>
+    </message>
+    <message id="ui_advice_unknown">
+        <source></source>
+        <translation>The records of both disks name a kind of array that this program does not know. Delete it only if you no longer need its data.</translation>
+    </message>
+    <message id="ui_restarting">
+        <source></source>
+        <translation>Restarting the enclosure…</translation>
+    </message>
+    <message id="ui_restarting_advice">
+        <source></source>
+        <translation>It disappears for a few seconds. If it does not come back, press “%1”.</translation>
+    </message>
+    <message id="ui_reason_restarting">
+        <source></source>
+        <translation>The enclosure is restarting. If it does not come back, press “%1”.</translation>
+    </message>
+    <message id="ui_said">
+        <source></source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="ui_said_array">
+        <source></source>
+        <translation>%1: %2. %3</translation>
     </message>
 </context>
 </TS>

@@ -239,10 +239,6 @@
         <source></source>
         <translation>No hay ninguna caja conectada</translation>
     </message>
-    <message id="ui_no_enclosure_advice">
-        <source></source>
-        <translation>Conecte la caja por USB o FireWire y enciéndala. Aparecerá aquí automáticamente.</translation>
-    </message>
     <message id="ui_scanning">
         <source></source>
         <translation>Buscando cajas…</translation>
@@ -401,11 +397,11 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>Las dos bahías están vacías. Inserte un disco; aparecerá aquí automáticamente.</translation>
+        <translation>Las dos bahías están vacías. Inserte un disco y después pulse «%1».</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>La bahía %1 está vacía. Para crear un conjunto RAID, inserte en ella un segundo disco.</translation>
+        <translation>La bahía %1 está vacía. Para crear un conjunto RAID, inserte en ella un segundo disco y pulse «%2».</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -429,7 +425,7 @@
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Solo el disco %1 contiene una copia de este RAID 1. Para volver a tener dos, copie los datos en el disco %2 con el botón «%3» de abajo.</translation>
+        <translation>Solo el disco %1 contiene una copia de este RAID 1. Para volver a tener dos, cópiela en el disco %2 con «%3»; se perderá todo el contenido del disco %2.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -445,11 +441,11 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Falta la mitad de este conjunto. Para acceder a sus datos, vuelva a insertar el otro disco. Borre el disco %1 solo si ya no necesita los datos.</translation>
+        <translation>Falta la mitad de este conjunto. Para acceder a sus datos, vuelva a insertar el otro disco y pulse «%2». Borre el disco %1 solo si ya no necesita los datos.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>Los registros de los dos discos no se corresponden entre sí. Para acceder a un conjunto, inserte sus dos discos. Borre un disco solo si ya no necesita sus datos.</translation>
+        <translation>Los registros de los dos discos no se corresponden entre sí. Para acceder a un conjunto, inserte sus dos discos y pulse «%1». Borre un disco solo si ya no necesita sus datos.</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
@@ -485,7 +481,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>El conjunto está incompleto. Borre sus discos uno por uno.</translation>
+        <translation>Solo se puede eliminar un conjunto completo. Al borrar un disco se pierde todo su contenido.</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -573,7 +569,7 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>La página «%1» muestra qué bahía está vacía. El número de serie del otro disco figura en «%2»: compárelo con el de la etiqueta antes de retirar un disco.</translation>
+        <translation>Si falta un disco, la página «%1» muestra qué bahía está vacía. El número de serie del otro disco figura en «%2»: compárelo con el de la etiqueta antes de retirar un disco.</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
@@ -598,6 +594,34 @@
     <message id="ui_open_window">
         <source></source>
         <translation>Mostrar la ventana</translation>
+    </message>
+    <message id="ui_advice_beside_half">
+        <source></source>
+        <translation>El disco %1 contiene una copia completa de un RAID 1; el disco %2, la mitad de otro conjunto. Una reconstrucción en el disco %2 sobrescribiría esa mitad.</translation>
+    </message>
+    <message id="ui_advice_unknown">
+        <source></source>
+        <translation>Los registros de los dos discos indican un tipo de conjunto que este programa no conoce. Elimine el conjunto solo si ya no necesita sus datos.</translation>
+    </message>
+    <message id="ui_restarting">
+        <source></source>
+        <translation>Reiniciando la caja…</translation>
+    </message>
+    <message id="ui_restarting_advice">
+        <source></source>
+        <translation>Desaparecerá durante unos segundos. Si no vuelve a aparecer, pulse «%1».</translation>
+    </message>
+    <message id="ui_reason_restarting">
+        <source></source>
+        <translation>La caja se está reiniciando. Si no vuelve a aparecer, pulse «%1».</translation>
+    </message>
+    <message id="ui_said">
+        <source></source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="ui_said_array">
+        <source></source>
+        <translation>%1: %2. %3</translation>
     </message>
 </context>
 </TS>

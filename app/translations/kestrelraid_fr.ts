@@ -239,10 +239,6 @@
         <source></source>
         <translation>Aucun boîtier connecté</translation>
     </message>
-    <message id="ui_no_enclosure_advice">
-        <source></source>
-        <translation>Connectez le boîtier en USB ou en FireWire, puis allumez-le. Il apparaîtra ici de lui-même.</translation>
-    </message>
     <message id="ui_scanning">
         <source></source>
         <translation>Recherche de boîtiers…</translation>
@@ -401,11 +397,11 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>Les deux baies sont vides. Insérez un disque : il apparaîtra ici de lui-même.</translation>
+        <translation>Les deux baies sont vides. Insérez un disque, puis cliquez sur « %1 ».</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>La baie %1 est vide. Pour créer un ensemble RAID, insérez-y un second disque.</translation>
+        <translation>La baie %1 est vide. Pour créer un ensemble RAID, insérez-y un second disque et cliquez sur « %2 ».</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -429,7 +425,7 @@
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Seul le disque %1 contient une copie de ce RAID 1. Pour en avoir de nouveau deux, copiez les données sur le disque %2 avec le bouton « %3 » ci-dessous.</translation>
+        <translation>Seul le disque %1 contient une copie de ce RAID 1. Pour en avoir de nouveau deux, copiez-la sur le disque %2 avec « %3 » ; tout le contenu du disque %2 sera alors perdu.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -445,11 +441,11 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Il manque la moitié de cet ensemble. Pour accéder à ses données, remettez l’autre disque en place. N’effacez le disque %1 que si les données ne servent plus.</translation>
+        <translation>Il manque la moitié de cet ensemble. Pour accéder à ses données, remettez l’autre disque en place et cliquez sur « %2 ». N’effacez le disque %1 que si les données ne servent plus.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>Les enregistrements des disques ne concordent pas. Pour accéder à un ensemble, remettez ses deux disques en place. N’effacez un disque que si ses données ne servent plus.</translation>
+        <translation>Les deux enregistrements ne concordent pas. Pour accéder à un ensemble, insérez ses deux disques et cliquez sur « %1 ». N’effacez un disque que si ses données ne servent plus.</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
@@ -485,7 +481,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>L’ensemble est incomplet. Effacez ses disques un par un.</translation>
+        <translation>Seul un ensemble complet peut être supprimé. Effacer un disque fait perdre tout son contenu.</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -573,7 +569,7 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>La page « %1 » indique quelle baie est vide. Le numéro de série de l’autre disque figure à la page « %2 » : comparez-le à celui de l’étiquette avant de retirer un disque.</translation>
+        <translation>S’il manque un disque, la page « %1 » indique quelle baie est vide. Le numéro de série de l’autre disque figure à la page « %2 » : comparez-le à celui de l’étiquette avant de retirer un disque.</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
@@ -598,6 +594,34 @@
     <message id="ui_open_window">
         <source></source>
         <translation>Afficher la fenêtre</translation>
+    </message>
+    <message id="ui_advice_beside_half">
+        <source></source>
+        <translation>Le disque %1 contient une copie complète d’un RAID 1 ; le disque %2, la moitié d’un autre ensemble. Une reconstruction sur le disque %2 écraserait cette moitié.</translation>
+    </message>
+    <message id="ui_advice_unknown">
+        <source></source>
+        <translation>Les enregistrements des deux disques désignent un type d’ensemble que ce programme ne connaît pas. Ne supprimez cet ensemble que si ses données ne servent plus.</translation>
+    </message>
+    <message id="ui_restarting">
+        <source></source>
+        <translation>Redémarrage du boîtier…</translation>
+    </message>
+    <message id="ui_restarting_advice">
+        <source></source>
+        <translation>Il disparaîtra quelques secondes. S’il ne réapparaît pas, cliquez sur « %1 ».</translation>
+    </message>
+    <message id="ui_reason_restarting">
+        <source></source>
+        <translation>Le boîtier redémarre. S’il ne réapparaît pas, cliquez sur « %1 ».</translation>
+    </message>
+    <message id="ui_said">
+        <source></source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="ui_said_array">
+        <source></source>
+        <translation>%1 : %2. %3</translation>
     </message>
 </context>
 </TS>

@@ -239,10 +239,6 @@
         <source></source>
         <translation>Nessun box collegato</translation>
     </message>
-    <message id="ui_no_enclosure_advice">
-        <source></source>
-        <translation>Collegare il box tramite USB o FireWire e accenderlo. Apparirà qui automaticamente.</translation>
-    </message>
     <message id="ui_scanning">
         <source></source>
         <translation>Ricerca dei box in corso…</translation>
@@ -401,11 +397,11 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>Entrambi i vani sono vuoti. Inserire un disco: apparirà qui automaticamente.</translation>
+        <translation>Entrambi i vani sono vuoti. Inserire un disco, poi premere «%1».</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>Il vano %1 è vuoto. Per creare un array, inserirvi un secondo disco.</translation>
+        <translation>Il vano %1 è vuoto. Per creare un array, inserirvi un secondo disco e premere «%2».</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -429,7 +425,7 @@
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>Solo il disco %1 contiene una copia di questo RAID 1. Per averne di nuovo due, copiare i dati sul disco %2 con il pulsante «%3» qui sotto.</translation>
+        <translation>Solo il disco %1 contiene una copia di questo RAID 1. Per averne di nuovo due, copiarla sul disco %2 con «%3»; tutto il contenuto del disco %2 andrà perso.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -445,11 +441,11 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>Manca metà di questo array. Per accedere ai dati, reinserire l’altro disco. Cancellare il disco %1 solo se i dati non servono più.</translation>
+        <translation>Manca metà di questo array. Per accedere ai dati, reinserire l’altro disco e premere «%2». Cancellare il disco %1 solo se i dati non servono più.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>I record dei due dischi non corrispondono. Per accedere ai dati di un array, inserire entrambi i suoi dischi. Cancellare un disco solo se i suoi dati non servono più.</translation>
+        <translation>I record dei due dischi non corrispondono. Per accedere ai dati di un array, inserire entrambi i suoi dischi e premere «%1». Cancellare un disco solo se i suoi dati non servono più.</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
@@ -485,7 +481,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>L’array è incompleto. Cancellare i suoi dischi uno alla volta.</translation>
+        <translation>Si può eliminare solo un array completo. Cancellando un disco se ne perde tutto il contenuto.</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -573,7 +569,7 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>La pagina «%1» mostra quale vano è vuoto. Il numero di serie dell’altro disco è indicato in «%2»: confrontarlo con quello sull’etichetta prima di estrarre un disco.</translation>
+        <translation>Se manca un disco, la pagina «%1» mostra quale vano è vuoto. Il numero di serie dell’altro disco è indicato in «%2»: confrontarlo con quello sull’etichetta prima di estrarre un disco.</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
@@ -598,6 +594,34 @@
     <message id="ui_open_window">
         <source></source>
         <translation>Mostra finestra</translation>
+    </message>
+    <message id="ui_advice_beside_half">
+        <source></source>
+        <translation>Il disco %1 contiene una copia completa di un RAID 1; il disco %2, metà di un altro array. Una ricostruzione sul disco %2 sovrascriverebbe questa metà.</translation>
+    </message>
+    <message id="ui_advice_unknown">
+        <source></source>
+        <translation>I record dei due dischi indicano un tipo di array che questo programma non conosce. Eliminare l’array solo se i suoi dati non servono più.</translation>
+    </message>
+    <message id="ui_restarting">
+        <source></source>
+        <translation>Riavvio del box in corso…</translation>
+    </message>
+    <message id="ui_restarting_advice">
+        <source></source>
+        <translation>Scomparirà per alcuni secondi. Se non riappare, premere «%1».</translation>
+    </message>
+    <message id="ui_reason_restarting">
+        <source></source>
+        <translation>È in corso il riavvio del box. Se non riappare, premere «%1».</translation>
+    </message>
+    <message id="ui_said">
+        <source></source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="ui_said_array">
+        <source></source>
+        <translation>%1: %2. %3</translation>
     </message>
 </context>
 </TS>

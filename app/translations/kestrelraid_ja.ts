@@ -239,10 +239,6 @@
         <source></source>
         <translation>ケースが接続されていません</translation>
     </message>
-    <message id="ui_no_enclosure_advice">
-        <source></source>
-        <translation>ケースを USB または FireWire で接続し、電源を入れてください。自動的にここに表示されます。</translation>
-    </message>
     <message id="ui_scanning">
         <source></source>
         <translation>ケースを検索中…</translation>
@@ -401,11 +397,11 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>どちらのベイも空です。ディスクを入れると、自動的にここに表示されます。</translation>
+        <translation>どちらのベイも空です。ディスクを入れて、「%1」を押してください。</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>ベイ %1 は空です。アレイを作成するには、このベイに 2 台目のディスクを入れてください。</translation>
+        <translation>ベイ %1 は空です。アレイを作成するには、このベイに 2 台目のディスクを入れて、「%2」を押してください。</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -429,7 +425,7 @@
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>この RAID 1 のデータはディスク %1 にしかありません。再び二重化するには、下の「%3」ボタンでディスク %2 にコピーしてください。</translation>
+        <translation>この RAID 1 のデータはディスク %1 にしかありません。再び二重化するには、「%3」でディスク %2 にコピーしてください。その際、ディスク %2 の内容はすべて失われます。</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -445,11 +441,11 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>このアレイは片方のディスクがありません。データを使うには、そのディスクを戻してください。ディスク %1 の消去は、データが不要になった場合にのみ行ってください。</translation>
+        <translation>このアレイは片方のディスクがありません。データを使うには、そのディスクを戻して「%2」を押してください。ディスク %1 の消去は、データが不要になった場合にのみ行ってください。</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>2 台のディスクの構成情報が一致しません。データを使うには、同じアレイのディスクをそろえて戻してください。ディスクの消去は、データが不要になった場合にのみ行ってください。</translation>
+        <translation>2 台のディスクの構成情報が一致しません。データを使うには、同じアレイの 2 台を戻して「%1」を押してください。ディスクの消去は、データが不要になった場合にのみ行ってください。</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
@@ -485,7 +481,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>アレイが不完全です。削除するには、ディスクを 1 台ずつ消去してください。</translation>
+        <translation>削除できるのは、ディスクがそろったアレイだけです。ディスクを消去すると、その内容は失われます。</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -573,7 +569,7 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>どのベイが空になっているかは、「%1」ページで確認できます。もう 1 台のシリアル番号（S/N）は「%2」に表示されます。ディスクを取り出す前に、ラベルの番号と照合してください。</translation>
+        <translation>ディスクが見つからない場合、どのベイが空かは「%1」ページで確認できます。もう 1 台のシリアル番号（S/N）は「%2」に表示されます。ディスクを取り出す前に、ラベルの番号と照合してください。</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
@@ -598,6 +594,34 @@
     <message id="ui_open_window">
         <source></source>
         <translation>ウィンドウを表示</translation>
+    </message>
+    <message id="ui_advice_beside_half">
+        <source></source>
+        <translation>ディスク %1 には RAID 1 のデータがすべてありますが、ディスク %2 は別のアレイの片方です。ディスク %2 をコピー先にして再構築すると、その内容は失われます。</translation>
+    </message>
+    <message id="ui_advice_unknown">
+        <source></source>
+        <translation>2 台のディスクの構成情報は、このプログラムが対応していない種類のアレイのものです。アレイの削除は、データが不要になった場合にのみ行ってください。</translation>
+    </message>
+    <message id="ui_restarting">
+        <source></source>
+        <translation>ケースを再起動中…</translation>
+    </message>
+    <message id="ui_restarting_advice">
+        <source></source>
+        <translation>数秒間、表示されなくなります。再び表示されない場合は、「%1」を押してください。</translation>
+    </message>
+    <message id="ui_reason_restarting">
+        <source></source>
+        <translation>ケースを再起動しています。再び表示されない場合は、「%1」を押してください。</translation>
+    </message>
+    <message id="ui_said">
+        <source></source>
+        <translation>%1。%2</translation>
+    </message>
+    <message id="ui_said_array">
+        <source></source>
+        <translation>%1：%2。%3</translation>
     </message>
 </context>
 </TS>

@@ -239,10 +239,6 @@
         <source></source>
         <translation>연결된 인클로저 없음</translation>
     </message>
-    <message id="ui_no_enclosure_advice">
-        <source></source>
-        <translation>인클로저를 USB 또는 FireWire로 연결하고 전원을 켜십시오. 여기에 자동으로 표시됩니다.</translation>
-    </message>
     <message id="ui_scanning">
         <source></source>
         <translation>인클로저를 찾는 중…</translation>
@@ -401,11 +397,11 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>두 베이가 모두 비어 있습니다. 디스크를 넣으면 여기에 자동으로 표시됩니다.</translation>
+        <translation>두 베이가 모두 비어 있습니다. 디스크를 넣은 다음 ‘%1’ 버튼을 누르십시오.</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>베이 %1에 디스크가 없습니다. 어레이를 만들려면 이 베이에 두 번째 디스크를 넣으십시오.</translation>
+        <translation>베이 %1에 디스크가 없습니다. 어레이를 만들려면 이 베이에 두 번째 디스크를 넣은 다음 ‘%2’ 버튼을 누르십시오.</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -429,7 +425,7 @@
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>이 RAID 1의 데이터는 디스크 %1에만 있습니다. 다시 두 벌로 만들려면 아래의 ‘%3’ 버튼으로 디스크 %2에 복사하십시오.</translation>
+        <translation>이 RAID 1의 데이터는 디스크 %1에만 있습니다. 다시 두 벌로 만들려면 ‘%3’ 버튼으로 디스크 %2에 복사하십시오. 이때 디스크 %2의 모든 내용이 손실됩니다.</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -445,11 +441,11 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>이 어레이의 디스크 하나가 없습니다. 데이터를 사용하려면 그 디스크를 다시 넣으십시오. 데이터가 더 이상 필요하지 않을 때만 디스크 %1 지우기를 실행하십시오.</translation>
+        <translation>이 어레이의 디스크 하나가 없습니다. 데이터를 사용하려면 그 디스크를 다시 넣고 ‘%2’ 버튼을 누르십시오. 데이터가 더 이상 필요하지 않을 때만 디스크 %1 지우기를 실행하십시오.</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>두 디스크의 구성 정보가 서로 맞지 않습니다. 데이터를 사용하려면 같은 어레이의 디스크를 다시 함께 넣으십시오. 데이터가 더 이상 필요하지 않은 디스크만 지우십시오.</translation>
+        <translation>두 디스크의 구성 정보가 서로 맞지 않습니다. 데이터를 사용하려면 같은 어레이의 디스크를 다시 함께 넣고 ‘%1’ 버튼을 누르십시오. 데이터가 더 이상 필요하지 않은 디스크만 지우십시오.</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
@@ -485,7 +481,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>어레이가 불완전합니다. 삭제하려면 디스크를 하나씩 지우십시오.</translation>
+        <translation>디스크가 모두 있는 어레이만 삭제할 수 있습니다. 디스크를 지우면 그 디스크의 내용이 손실됩니다.</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -573,7 +569,7 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>어느 베이가 비어 있는지는 ‘%1’ 페이지에서 확인할 수 있습니다. 다른 디스크의 일련번호(S/N)는 ‘%2’ 페이지에 있습니다. 디스크를 꺼내기 전에 라벨의 번호와 비교하십시오.</translation>
+        <translation>디스크를 찾을 수 없으면 ‘%1’ 페이지에서 빈 베이를 확인하십시오. 다른 디스크의 일련번호(S/N)는 ‘%2’ 페이지에 있습니다. 디스크를 꺼내기 전에 라벨의 번호와 비교하십시오.</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
@@ -598,6 +594,34 @@
     <message id="ui_open_window">
         <source></source>
         <translation>창 표시</translation>
+    </message>
+    <message id="ui_advice_beside_half">
+        <source></source>
+        <translation>디스크 %1에는 RAID 1의 데이터가 모두 있지만, 디스크 %2에는 다른 어레이의 절반만 있습니다. 디스크 %2에 RAID 1을 재구축하면 그 절반의 데이터가 손실됩니다.</translation>
+    </message>
+    <message id="ui_advice_unknown">
+        <source></source>
+        <translation>두 디스크의 구성 정보에 이 프로그램이 알지 못하는 종류의 어레이가 기록되어 있습니다. 데이터가 더 이상 필요하지 않을 때만 어레이를 삭제하십시오.</translation>
+    </message>
+    <message id="ui_restarting">
+        <source></source>
+        <translation>인클로저를 다시 시작하는 중…</translation>
+    </message>
+    <message id="ui_restarting_advice">
+        <source></source>
+        <translation>몇 초 동안 표시되지 않습니다. 다시 표시되지 않으면 ‘%1’ 버튼을 누르십시오.</translation>
+    </message>
+    <message id="ui_reason_restarting">
+        <source></source>
+        <translation>인클로저를 다시 시작하고 있습니다. 다시 표시되지 않으면 ‘%1’ 버튼을 누르십시오.</translation>
+    </message>
+    <message id="ui_said">
+        <source></source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="ui_said_array">
+        <source></source>
+        <translation>%1: %2. %3</translation>
     </message>
 </context>
 </TS>

@@ -239,10 +239,6 @@
         <source></source>
         <translation>未连接硬盘盒</translation>
     </message>
-    <message id="ui_no_enclosure_advice">
-        <source></source>
-        <translation>请用 USB 或 FireWire 连接硬盘盒并打开电源，硬盘盒会自动出现在这里。</translation>
-    </message>
     <message id="ui_scanning">
         <source></source>
         <translation>正在查找硬盘盒…</translation>
@@ -401,11 +397,11 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>两个盘位都是空的。请装入磁盘，它会自动出现在这里。</translation>
+        <translation>两个盘位都是空的。请装入磁盘，然后点击“%1”。</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>盘位 %1 是空的。如需创建阵列，请在该盘位装入第二块磁盘。</translation>
+        <translation>盘位 %1 是空的。如需创建阵列，请在该盘位装入第二块磁盘，然后点击“%2”。</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -429,7 +425,7 @@
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>只有磁盘 %1 存有此 RAID 1 的数据。要恢复为两份，请点击下方的“%3”，将数据复制到磁盘 %2。</translation>
+        <translation>只有磁盘 %1 存有此 RAID 1 的数据。要恢复为两份，请点击“%3”，将数据复制到磁盘 %2；磁盘 %2 上的所有内容都将随之丢失。</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -445,11 +441,11 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>此阵列缺少一块磁盘。如需访问数据，请将其装回。只有在不再需要这些数据时，才可清除磁盘 %1。</translation>
+        <translation>此阵列缺少一块磁盘。如需访问数据，请将其装回，然后点击“%2”。只有在不再需要这些数据时，才可清除磁盘 %1。</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>两块磁盘上的记录不匹配。如需访问某个阵列的数据，请装回该阵列的两块磁盘。只有在不再需要某块磁盘上的数据时，才可清除该磁盘。</translation>
+        <translation>两块磁盘上的记录不匹配。如需访问某个阵列的数据，请装回该阵列的两块磁盘，然后点击“%1”。只有在不再需要某块磁盘上的数据时，才可清除该磁盘。</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
@@ -485,7 +481,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>阵列不完整。如需删除，请逐一清除其中的磁盘。</translation>
+        <translation>只有完整的阵列才能删除。清除磁盘后，其中的内容将会丢失。</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -573,7 +569,7 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>“%1”页面会显示哪个盘位是空的。另一块磁盘的序列号可在“%2”中查看：取出磁盘之前，请与磁盘标签上的序列号核对。</translation>
+        <translation>如果缺少磁盘，“%1”页面会显示哪个盘位是空的。另一块磁盘的序列号可在“%2”中查看：取出磁盘之前，请与磁盘标签上的序列号核对。</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
@@ -598,6 +594,34 @@
     <message id="ui_open_window">
         <source></source>
         <translation>显示窗口</translation>
+    </message>
+    <message id="ui_advice_beside_half">
+        <source></source>
+        <translation>磁盘 %1 存有某个 RAID 1 的完整数据，磁盘 %2 存有另一个阵列的一半数据。如果以磁盘 %2 为目标磁盘进行重建，这一半数据将会丢失。</translation>
+    </message>
+    <message id="ui_advice_unknown">
+        <source></source>
+        <translation>本程序无法识别两块磁盘的记录中标明的阵列类型。只有在不再需要该阵列的数据时，才可将其删除。</translation>
+    </message>
+    <message id="ui_restarting">
+        <source></source>
+        <translation>正在重新启动硬盘盒…</translation>
+    </message>
+    <message id="ui_restarting_advice">
+        <source></source>
+        <translation>硬盘盒会消失几秒钟。如未重新出现，请点击“%1”。</translation>
+    </message>
+    <message id="ui_reason_restarting">
+        <source></source>
+        <translation>正在重新启动硬盘盒。如未重新出现，请点击“%1”。</translation>
+    </message>
+    <message id="ui_said">
+        <source></source>
+        <translation>%1。%2</translation>
+    </message>
+    <message id="ui_said_array">
+        <source></source>
+        <translation>%1：%2。%3</translation>
     </message>
 </context>
 </TS>

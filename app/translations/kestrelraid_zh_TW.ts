@@ -239,10 +239,6 @@
         <source></source>
         <translation>未連接外接盒</translation>
     </message>
-    <message id="ui_no_enclosure_advice">
-        <source></source>
-        <translation>請以 USB 或 FireWire 連接外接盒並開啟電源，外接盒就會自動出現在這裡。</translation>
-    </message>
     <message id="ui_scanning">
         <source></source>
         <translation>正在尋找外接盒…</translation>
@@ -401,11 +397,11 @@
     </message>
     <message id="ui_advice_no_disks">
         <source></source>
-        <translation>兩個磁碟槽都是空的。請裝入磁碟，磁碟會自動出現在這裡。</translation>
+        <translation>兩個磁碟槽都是空的。請裝入磁碟，再按「%1」。</translation>
     </message>
     <message id="ui_advice_one_disk">
         <source></source>
-        <translation>磁碟槽 %1 是空的。若要建立陣列，請在此磁碟槽裝入第二顆磁碟。</translation>
+        <translation>磁碟槽 %1 是空的。若要建立陣列，請在此磁碟槽裝入第二顆磁碟，再按「%2」。</translation>
     </message>
     <message id="ui_advice_pair">
         <source></source>
@@ -429,7 +425,7 @@
     </message>
     <message id="ui_advice_fresh">
         <source></source>
-        <translation>只有磁碟 %1 存有這個 RAID 1 的資料。若要恢復成兩份，請按下方的「%3」，將資料複製到磁碟 %2。</translation>
+        <translation>只有磁碟 %1 存有這個 RAID 1 的資料。若要恢復成兩份，請按「%3」，將資料複製到磁碟 %2；磁碟 %2 上的所有內容都會因此遺失。</translation>
     </message>
     <message id="ui_advice_small">
         <source></source>
@@ -445,11 +441,11 @@
     </message>
     <message id="ui_advice_half">
         <source></source>
-        <translation>這個陣列少了一顆磁碟。若要存取資料，請將它裝回。確定不再需要這些資料時，才可清除磁碟 %1。</translation>
+        <translation>這個陣列少了一顆磁碟。若要存取資料，請將它裝回，再按「%2」。確定不再需要這些資料時，才可清除磁碟 %1。</translation>
     </message>
     <message id="ui_advice_halves">
         <source></source>
-        <translation>兩顆磁碟上的記錄並不相符。若要存取某個陣列的資料，請裝回該陣列的兩顆磁碟。確定不再需要磁碟上的資料時，才可清除該磁碟。</translation>
+        <translation>兩顆磁碟上的記錄並不相符。若要存取某個陣列的資料，請裝回該陣列的兩顆磁碟，再按「%1」。確定不再需要磁碟上的資料時，才可清除該磁碟。</translation>
     </message>
     <message id="ui_advice_rebuilding">
         <source></source>
@@ -485,7 +481,7 @@
     </message>
     <message id="ui_reason_incomplete">
         <source></source>
-        <translation>陣列不完整。若要刪除，請逐一清除其中的磁碟。</translation>
+        <translation>只有完整的陣列才能刪除。清除磁碟後，其中的內容就會遺失。</translation>
     </message>
     <message id="ui_reason_no_mirror">
         <source></source>
@@ -573,7 +569,7 @@
     </message>
     <message id="ui_guide_find_text">
         <source></source>
-        <translation>「%1」頁面會顯示哪個磁碟槽是空的。另一顆磁碟的序號列在「%2」頁面：取出磁碟之前，請先與磁碟標籤上的序號核對。</translation>
+        <translation>若少了磁碟，「%1」頁面會顯示哪個磁碟槽是空的。另一顆磁碟的序號列在「%2」頁面：取出磁碟之前，請先與磁碟標籤上的序號核對。</translation>
     </message>
     <message id="ui_guide_replace">
         <source></source>
@@ -598,6 +594,34 @@
     <message id="ui_open_window">
         <source></source>
         <translation>顯示視窗</translation>
+    </message>
+    <message id="ui_advice_beside_half">
+        <source></source>
+        <translation>磁碟 %1 存有某個 RAID 1 的完整資料，磁碟 %2 存有另一個陣列的一半資料。如果以磁碟 %2 為目標磁碟進行重建，這一半資料就會遺失。</translation>
+    </message>
+    <message id="ui_advice_unknown">
+        <source></source>
+        <translation>本程式無法辨識兩顆磁碟的記錄所標示的陣列類型。確定不再需要該陣列的資料時，才可將它刪除。</translation>
+    </message>
+    <message id="ui_restarting">
+        <source></source>
+        <translation>正在重新啟動外接盒…</translation>
+    </message>
+    <message id="ui_restarting_advice">
+        <source></source>
+        <translation>外接盒會消失幾秒鐘。若未重新出現，請按「%1」。</translation>
+    </message>
+    <message id="ui_reason_restarting">
+        <source></source>
+        <translation>正在重新啟動外接盒。若未重新出現，請按「%1」。</translation>
+    </message>
+    <message id="ui_said">
+        <source></source>
+        <translation>%1。%2</translation>
+    </message>
+    <message id="ui_said_array">
+        <source></source>
+        <translation>%1：%2。%3</translation>
     </message>
 </context>
 </TS>

@@ -24,7 +24,6 @@ protected:
         take_chip(memory_disk(disk_a()), memory_disk(disk_b()));
     }
 
-    // As if no bridge had ever been there.
     void take_mirror() {
         forget_all();
         take_chip(member_a(mode_raid1), member_b(mode_raid1));

@@ -97,6 +97,10 @@ TEST(pace_words, NameWholeHoursAndMinutes) {
     EXPECT_EQ(time_left_text(pace, texts), "ui_left_soon %1");
     pace.bytes_per_second = 148'999'999;
     EXPECT_EQ(speed_text(pace, texts), "148 MB/s");
+    pace.bytes_per_second = 9'999'999;
+    EXPECT_EQ(speed_text(pace, texts), "9.9 MB/s");
+    pace.bytes_per_second = 70'000;
+    EXPECT_EQ(speed_text(pace, texts), "0.0 MB/s");
     pace.stalled = true;
     EXPECT_EQ(speed_text(pace, texts), "ui_stalled %1");
 }

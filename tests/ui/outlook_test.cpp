@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "app/display_text.h"
+#include "app/status_display.h"
 #include "app/string_table.h"
 #include "tests/support/fixture.h"
 #include "tests/ui/window_test.h"
@@ -44,6 +45,23 @@ protected:
     void mirror_on(std::size_t port) {
         put_disk(chip.disks[port], capacity, mode_raid1, capacity - 16);
         chip.disks[port].raid1_orphan = 1;
+    }
+
+    void expect_consistent() const {
+        const outlook one = now();
+        const view_state shown = status_view(&chip, true, table);
+        EXPECT_FALSE(one.word.empty() || one.advice.empty());
+        EXPECT_EQ(one.advice.find('%'), std::string::npos) << one.advice;
+        for (std::size_t port = 0; port < 2; ++port) {
+            EXPECT_EQ(one.reasons.rebuild[port].empty(), shown.disks[port].rebuildbutton);
+        }
+        EXPECT_EQ(one.reasons.clear_array.empty(), shown.clearconfigbutton);
+        const bool both_mirrors =
+            chip.disks[0].raid_mode == mode_raid1 && chip.disks[1].raid_mode == mode_raid1;
+        EXPECT_TRUE(one.sides[0].role.empty() || both_mirrors);
+        EXPECT_TRUE(!one.create_is_next || shown.confirmbutton);
+        EXPECT_EQ(one.is == verdict::healthy || one.is == verdict::rebuilding,
+                  shown.raid_valid && is_array_mode(chip.raid_mode));
     }
 
     QTranslator translator;
@@ -107,6 +125,8 @@ TEST_F(outlooks, OnlyAMirrorSaysThatBothDisksHoldTheSame) {
 TEST_F(outlooks, KindThatIsNoneIsNotConfigured) {
     array_of(3);
     EXPECT_EQ(now().is, verdict::not_configured);
+    EXPECT_FALSE(now().create_is_next);
+    EXPECT_THAT(now().advice, HasSubstr("a kind of array that this program does not know"));
     EXPECT_EQ(now().kind_in_use, std::nullopt);
     EXPECT_THAT(now().state, IsEmpty());
 }
@@ -117,19 +137,20 @@ TEST_F(outlooks, MirrorWithoutItsOtherDiskSaysWhichAndHowLarge) {
     EXPECT_EQ(now().is, verdict::degraded);
     EXPECT_EQ(now().advice,
               "Disk 1 is missing, so there is only one copy, on Disk 2. Insert a disk "
-              "of at least 2.00 TB into bay 1; you can then rebuild.");
+              "of at least 2.00\u00A0TB into bay 1; you can then rebuild.");
     EXPECT_EQ(now().reasons.rebuild[1], "Bay 1 is empty: there is no disk to copy onto.");
-    EXPECT_EQ(now().reasons.clear_array, "The array is not complete. Clear its disks one by one.");
+    EXPECT_EQ(now().reasons.clear_array,
+              "Only a complete array can be deleted. Clearing a disk erases what is on it.");
     EXPECT_TRUE(now().failure);
 }
 
 TEST_F(outlooks, MirrorBesideAFreshDiskNamesTheButton) {
     mirror_on(0);
-    EXPECT_THAT(now().advice, HasSubstr("onto Disk 2 with the button “Rebuild->”"));
+    EXPECT_THAT(now().advice, HasSubstr("onto Disk 2 with “Rebuild->”; everything on Disk 2"));
     EXPECT_THAT(now().reasons.rebuild[0], IsEmpty());
     put_disk(chip.disks[0], capacity);
     mirror_on(1);
-    EXPECT_THAT(now().advice, HasSubstr("onto Disk 1 with the button “<-Rebuild”"));
+    EXPECT_THAT(now().advice, HasSubstr("onto Disk 1 with “<-Rebuild”; everything on Disk 1"));
 }
 
 TEST_F(outlooks, DiskTooSmallForACopyIsNamedWithTheMissingSectors) {
@@ -151,8 +172,29 @@ TEST_F(outlooks, TwoCopiesThatDifferNameTheLaterRecord) {
     EXPECT_THAT(now().advice, HasSubstr("the record on Disk 2 is the more recent"));
     EXPECT_EQ(now().sides[1].record, "record 2026-11-21 08:55");
     EXPECT_THAT(now().sides[0].record, IsEmpty());
-    chip.disks[1].rebuild_role = 0;
+}
+
+TEST_F(outlooks, CopiesAreOfTheSameMirrorOnlyWhenTheirRecordsSaySo) {
+    array_of(mode_raid1);
+    chip.raid_valid = 0;
+    chip.disks[0].rebuild_role = 1;
+    chip.disks[1].rebuild_role = 2;
+    EXPECT_THAT(now().advice, HasSubstr("a copy of the same RAID 1"));
+    chip.disks[1].partner_serial_raw[0] = 'X';
     EXPECT_THAT(now().advice, HasSubstr("do not match"));
+    chip.disks[0].identify_serial_raw[0] = 'X';
+    EXPECT_THAT(now().advice, HasSubstr("a copy of the same RAID 1"));
+    chip.disks[0].raid_capacity -= 1;
+    EXPECT_THAT(now().advice, HasSubstr("do not match"));
+}
+
+TEST_F(outlooks, StrayMarkOnAStripeCopiesNothing) {
+    array_of(mode_raid0);
+    chip.rebuild_pending = 1;
+    chip.disks[0].rebuild_mark = 1;
+    EXPECT_THAT(now().state, IsEmpty());
+    EXPECT_THAT(now().advice, HasSubstr("spread over both disks"));
+    EXPECT_THAT(now().sides[0].role, IsEmpty());
 }
 
 TEST_F(outlooks, HalfOfAStripeIsBrokenAndNamesTheDiskToKeep) {
@@ -177,7 +219,7 @@ TEST_F(outlooks, MirrorBesideHalfAStripeIsBroken) {
     put_disk(chip.disks[1], capacity, mode_raid0, capacity - 16);
     chip.disks[1].member_mismatch = 1;
     EXPECT_EQ(now().is, verdict::broken);
-    EXPECT_THAT(now().advice, StartsWith("The records on the two disks do not match."));
+    EXPECT_THAT(now().advice, StartsWith("Disk 1 holds a complete copy of a RAID 1, Disk 2 half"));
 }
 
 TEST_F(outlooks, RunningRebuildNamesTheDiskThatHoldsAllData) {
@@ -204,6 +246,27 @@ TEST_F(outlooks, WithoutAChipEveryButtonSaysWhy) {
     EXPECT_EQ(busy.reasons.clear_array, "The enclosures are being read.");
 }
 
+// Whatever two disks and their records may say.
+TEST_F(outlooks, HoldTogetherForEveryPairOfRecords) {
+    for (const int mode0 : {0, 1, 2, 3, 4, 5, 255}) {
+        for (const int mode1 : {0, 1, 2, 3, 4, 5, 255}) {
+            for (unsigned bits = 0; bits < 64; ++bits) {
+                chip = krchip();
+                put_disk(chip.disks[0], capacity, mode0, capacity - 16);
+                put_disk(chip.disks[1], capacity - 4 * (bits & 1), mode1, capacity - 17);
+                chip.disks[0].present = (bits >> 1) & 1;
+                chip.disks[1].present = (bits >> 2) & 1;
+                chip.disks[0].rebuild_mark = (bits >> 3) & 1;
+                chip.disks[1].rebuild_mark = (bits >> 4) & 1;
+                chip.disks[1].raid_time[0] = static_cast<unsigned char>((bits >> 5) & 1);
+                chip.read_raid_combined_info();
+                SCOPED_TRACE(testing::Message() << mode0 << " " << mode1 << " bits " << bits);
+                expect_consistent();
+            }
+        }
+    }
+}
+
 TEST(record_times, AreShownOnlyWhenTheyAreTimes) {
     std::array<unsigned char, raid_time_size> stamp{};
     EXPECT_EQ(time_of_record(stamp), "");
@@ -213,6 +276,11 @@ TEST(record_times, AreShownOnlyWhenTheyAreTimes) {
         auto hostile = stamp;
         hostile[place] = 0xFF;
         EXPECT_EQ(time_of_record(hostile), "") << place;
+    }
+    for (const char* no_time : {"20261321085500", "20260021085500", "20261100085500",
+                                "20261132085500", "20261121245500", "20261121086000"}) {
+        std::copy_n(no_time, 14, stamp.begin());
+        EXPECT_EQ(time_of_record(stamp), "") << no_time;
     }
 }
 

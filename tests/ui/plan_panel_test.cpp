@@ -45,7 +45,7 @@ protected:
         visit.setSingleShot(true);
         QObject::connect(&visit, &QTimer::timeout, &window, [this, &user] {
             user();
-            if (shown()->isVisible()) {
+            if (shown() != nullptr) {
                 dismiss_topmost_panel(guard);
             }
         });

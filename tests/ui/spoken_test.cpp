@@ -60,6 +60,7 @@ TEST_F(spoken, StateIsAnnouncedOnceForEachChange) {
 }
 
 TEST_F(spoken, ShownStateIsAnnouncedAndABlankingIsNot) {
+    texts.set("ui_said", "%1. %2");
     show_chip([](krchip& chip) {
         put_disk(chip.disks[0], 2'000'000);
         put_disk(chip.disks[1], 2'000'000);

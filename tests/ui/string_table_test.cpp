@@ -5,7 +5,9 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QTranslator>
+#include <algorithm>
 #include <gmock/gmock.h>
+#include <map>
 #include <set>
 
 #include "app/plain_text.h"
@@ -56,6 +58,37 @@ TEST_P(every_language, SuffixesStandOffFromTheWordBefore) {
         const std::string text = translated(suffix);
         EXPECT_TRUE(text.front() == ' ' || text.rfind("（", 0) == 0) << text;
     }
+}
+
+// The places that values are filled in at, in their order.
+std::string places_in(const std::string& text) {
+    std::string places;
+    for (std::size_t at = text.find('%'); at != std::string::npos; at = text.find('%', at + 1)) {
+        places += text.substr(at, 2);
+    }
+    return places;
+}
+
+TEST_P(every_language, FillsInWhatEnglishDoes) {
+    std::map<std::string, std::string> here;
+    for (const std::string& key : known_keys()) {
+        here[key] = places_in(translated(key));
+    }
+    QTranslator english;
+    ASSERT_TRUE(install_language(english, QStringLiteral("en")));
+    for (auto& [key, places] : here) {
+        std::string wanted = places_in(translated(key));
+        std::sort(places.begin(), places.end());
+        std::sort(wanted.begin(), wanted.end());
+        EXPECT_EQ(places, wanted) << key;
+    }
+}
+
+// What is copied onto what is told in this order everywhere.
+TEST_P(every_language, NamesTheSourceBeforeTheTarget) {
+    EXPECT_EQ(places_in(translated("ui_state_copying")), "%1%2");
+    EXPECT_LT(translated("disk1_to_disk2").find('1'), translated("disk1_to_disk2").find('2'));
+    EXPECT_LT(translated("disk2_to_disk1").find('2'), translated("disk2_to_disk1").find('1'));
 }
 
 TEST_P(every_language, FillsTheTable) {

@@ -141,8 +141,8 @@ TEST_F(window_keys, StandInTheTips) {
 TEST_F(window_keys, OutlastANewNameOfTheRestartButton) {
     texts.set("ui_restart_named", "Restart %1");
     window->update_controller_list();
-    EXPECT_THAT(window->extras->warmbootbutton->toolTip().toStdString(), HasSubstr("(Ctrl+R)"));
-    EXPECT_EQ(window->extras->warmbootbutton->shortcut(), QKeySequence("Ctrl+R"));
+    EXPECT_THAT(window->extras->warmbootbutton->toolTip().toStdString(), HasSubstr("(Shift+F9)"));
+    EXPECT_EQ(window->extras->warmbootbutton->shortcut(), QKeySequence("Shift+F9"));
 }
 
 } // namespace
