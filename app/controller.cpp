@@ -40,7 +40,7 @@ controller::controller(const window_parts& parts)
       panels_(parts.panels != nullptr ? *parts.panels : own_panels_),
       tree_model_(std::make_unique<tree_model>()),
       now_(parts.now) {
-    watch_pace();
+
     build_window_contents(*this);
     own_panels_.show_over(mainview);
     guard_.always_serve(minimizebutton, true);
@@ -49,6 +49,7 @@ controller::controller(const window_parts& parts)
         [this](const tab_item& item) { return tab_gate_.shouldSelectTabViewItem(item); });
     tabview->serve_user_only_while([this] { return idle(); });
     connect_actions();
+    watch_pace();
     focus_ = std::make_unique<focus_memory>(
         guard_, std::vector<QWidget*>{tabview->bar(), showdiskguibutton, mainguibutton});
     desktop_.when_opened([this](const std::string& token) { bring_to_front(token); });

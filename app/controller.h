@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QStackedWidget>
-#include <QTimer>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -23,6 +22,7 @@
 #include "model/window.h"
 
 class QPushButton;
+class QTimer;
 class QTreeView;
 class controller_box;
 class copy_keeper;
@@ -260,6 +260,6 @@ private:
     std::unique_ptr<tree_model> tree_model_;
     bool exit_remembered_ = false;
     const std::function<copy_pace::time_point()> now_;
-    copy_pace pace_;    // of the rebuild that is shown
-    QTimer pace_watch_; // runs out when no reading of it comes any more
+    copy_pace pace_;               // of the rebuild that is shown
+    QTimer* pace_watch_ = nullptr; // runs out when no reading of it comes any more
 };

@@ -1,5 +1,6 @@
 // What the user's buttons do, and the small operations that other threads call back.
 #include <QPushButton>
+#include <QTimer>
 #include <utility>
 
 #include "app/controller.h"
@@ -125,16 +126,18 @@ void controller::updatepoll(std::uint64_t end, std::uint64_t currlba, bool diskp
             forget_pace();
         } else {
             show_pace(*this, pace_.note(end, currlba, now_()));
-            pace_watch_.start();
+            pace_watch_->start();
         }
     });
 }
 
 // A chip that is not read any more is not told from one that stands still.
 void controller::watch_pace() {
-    pace_watch_.setSingleShot(true);
-    pace_watch_.setInterval(copy_pace::stalled_after);
-    QObject::connect(&pace_watch_, &QTimer::timeout, mainview, [this] {
+    pace_watch_ = new QTimer(mainview);
+    pace_watch_->setObjectName(QStringLiteral("pace_watch"));
+    pace_watch_->setSingleShot(true);
+    pace_watch_->setInterval(copy_pace::stalled_after);
+    QObject::connect(pace_watch_, &QTimer::timeout, mainview, [this] {
         pace_view standing;
         standing.stalled = true;
         show_pace(*this, standing);
@@ -143,7 +146,7 @@ void controller::watch_pace() {
 
 void controller::forget_pace() {
     pace_.forget();
-    pace_watch_.stop();
+    pace_watch_->stop();
     show_pace(*this, {});
 }
 

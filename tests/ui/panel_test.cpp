@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -152,6 +153,26 @@ TEST_F(panel, OnlyTheTopmostTakesInput) {
         dismiss();
     });
     EXPECT_EQ(guard.topmost_panel(), nullptr);
+}
+
+// An assistive program reaches a panel that lies under another.
+TEST_F(panel, AnsweredUnderAnotherIsOutOfTheWay) {
+    int upper_answer = -1;
+    const int lower_answer = open([this, &upper_answer] {
+        QPointer<QWidget> lower = guard.topmost_panel();
+        QPushButton* lower_ok = button("panel_default_button");
+        upper_answer = open([this, lower, lower_ok] {
+            QWidget* upper = guard.topmost_panel();
+            ASSERT_NE(upper, lower.data());
+            lower_ok->click();
+            EXPECT_EQ(guard.topmost_panel(), upper);
+            press(Qt::Key_Escape);
+            EXPECT_EQ(guard.topmost_panel(), nullptr);
+        });
+    });
+    EXPECT_EQ(upper_answer, 0);
+    EXPECT_EQ(lower_answer, 1);
+    EXPECT_TRUE(guard.idle());
 }
 
 TEST_F(panel, GivesTheFocusBack) {

@@ -152,6 +152,25 @@ TEST_F(scene, FocusShowsTheSameAsTheMouse) {
     EXPECT_EQ(fate_of_card(1), QString());
 }
 
+TEST_F(scene, MouseThatGoesAwayLeavesTheEvidenceOfTheFocus) {
+    show_state("diverged");
+    QFocusEvent in(QEvent::FocusIn, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(window->rebuild0to1button, &in);
+    look_at(window->rebuild1to0button);
+    EXPECT_EQ(fate_of_card(0), QStringLiteral("lost"));
+    look_away_from(window->rebuild1to0button);
+    EXPECT_EQ(fate_of_card(0), QStringLiteral("stays"));
+}
+
+TEST_F(scene, ButtonThatIsEnabledUnderTheMouseShowsItsEvidence) {
+    show_state("diverged");
+    window->rebuild0to1button->setEnabled(false);
+    look_at(window->rebuild0to1button);
+    EXPECT_EQ(fate_of_card(0), QString());
+    window->rebuild0to1button->setEnabled(true);
+    EXPECT_EQ(fate_of_card(0), QStringLiteral("stays"));
+}
+
 TEST_F(scene, DirectionThatIsOffShowsNothing) {
     show_state("fresh-disk");
     look_at(window->rebuild1to0button);
@@ -175,6 +194,35 @@ TEST_F(scene, RunningRebuildTellsItsSpeedAndTheTimeLeft) {
     EXPECT_EQ(window->extras->time_left->text(), QString());
     window->cleargui();
     EXPECT_EQ(window->extras->speed->text(), QString());
+}
+
+TEST_F(scene, PaceGoesWithTheEndOfTheCopy) {
+    show_state("rebuild");
+    window->updatepoll(0, 0, true);
+    EXPECT_EQ(window->extras->speed->text(), QString());
+    show_state("rebuild");
+    window->stopprogressbar();
+    EXPECT_EQ(window->extras->time_left->text(), QString());
+}
+
+TEST_F(scene, ReadingsThatDoNotComeAnyMoreAreAStandstill) {
+    show_state("rebuild");
+    auto* watch = window->mainview->findChild<QTimer*>("pace_watch");
+    ASSERT_NE(watch, nullptr);
+    EXPECT_EQ(watch->intervalAsDuration(), copy_pace::stalled_after);
+    watch->start(0);
+    serve_until([&] { return window->extras->speed->text() == QStringLiteral("stalled"); });
+}
+
+TEST_F(scene, RestartingEnclosureKeepsTheButtonsOffAndSaysSo) {
+    show_state("raid1");
+    window->disablegui(false);
+    show_restarting_scene(*window);
+    EXPECT_EQ(window->extras->status.note_heading->text(),
+              QStringLiteral("Restarting the enclosure…"));
+    EXPECT_EQ(window->clearconfigbutton->accessibleDescription(),
+              QStringLiteral("The enclosure is restarting. If it does not come back, press "
+                             "“Refresh”."));
 }
 
 TEST_F(scene, ChangeOfTheArraySaysThatItGoesOn) {

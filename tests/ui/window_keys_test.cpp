@@ -57,6 +57,21 @@ TEST_F(window_keys, AskBeforeEveryChange) {
     EXPECT_THAT(questions_after("Ctrl+Left"), ElementsAre("disk2_to_disk1 (ok) (cancel)"));
 }
 
+TEST_F(window_keys, ActOnceHoweverLongTheyAreHeld) {
+    constexpr bool pressed = true;
+    constexpr bool repeated = true;
+    QTest::simulateEvent(window->mainwindow, pressed, Qt::Key_N, Qt::ControlModifier, QString(),
+                         repeated, -1);
+    serve_until([this] { return !window->confirmbutton->isDown(); });
+    EXPECT_THAT(take_panels(), IsEmpty());
+}
+
+TEST_F(window_keys, DoNothingForAButtonThatIsDisabledBeforeItActs) {
+    window->confirmbutton->setEnabled(false);
+    Q_EMIT window->confirmbutton->clicked(); // as a key does a moment after it was pressed
+    EXPECT_THAT(take_panels(), IsEmpty());
+}
+
 TEST_F(window_keys, DoNothingForWhatIsOff) {
     window->disablegui(false);
     for (const char* keys : {"Ctrl+N", "Ctrl+Del", "Shift+F7", "Shift+F8"}) {
