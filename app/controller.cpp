@@ -119,12 +119,17 @@ bool controller::check_OS_version() {
     return is_10_6_or_later(system_);
 }
 
+void controller::leave(int status) {
+    desktop_.hand_over();
+    j.with.exit.leave(status);
+}
+
 void controller::exitprogram() {
     if (guard_.working()) {
         exit_remembered_ = true;
         return;
     }
-    j.with.exit.leave(0);
+    leave(0);
 }
 
 // An open panel is closed first; whoever opened it then goes its way.
@@ -140,7 +145,7 @@ void controller::close_wanted() {
 void controller::obey_remembered_exit() {
     if (exit_remembered_ && !guard_.working()) {
         exit_remembered_ = false;
-        j.with.exit.leave(0);
+        leave(0);
     }
 }
 
@@ -150,7 +155,7 @@ void controller::show_error_and_exit(const std::string& /*message*/) {
         // The list may still name a bridge that this is not about.
         notify_and_ask({panel_kind::error, error, error, {localised("ok")}}, error,
                        urgency::critical);
-        j.with.exit.leave(status_fatal);
+        leave(status_fatal);
     });
 }
 

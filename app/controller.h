@@ -216,6 +216,7 @@ private:
     std::string localised(const char* key) const;
     void create_window();
     void load_dialog_words();
+    void leave(int status);
     void close_wanted();
     void obey_remembered_exit();
 

@@ -31,7 +31,11 @@ QString body(const std::string& text, const QStringList& capabilities) {
 
 } // namespace
 
-desktop_notices::desktop_notices(const QDBusConnection& bus) : bus_(bus) {
+desktop_notices::desktop_notices(const QDBusConnection& bus)
+    : bus_(bus), service_(service, bus, QDBusServiceWatcher::WatchForOwnerChange) {
+    connect(&service_, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this] { forget_service(); });
+    listen("NotificationClosed", SLOT(NotificationClosed(quint32, quint32)));
     listen("ActivationToken", SLOT(ActivationToken(quint32, QString)));
     listen("ActionInvoked", SLOT(ActionInvoked(quint32, QString)));
 }
@@ -76,22 +80,44 @@ void desktop_notices::sent(int shown, quint32 id) {
 
 void desktop_notices::close(int shown) {
     const auto found = open_.find(shown);
+    if (found == open_.end()) {
+        return;
+    }
     const quint32 id = found->second;
     open_.erase(found);
     if (id != 0) {
         call("CloseNotification", {id}, {});
-        hand_over();
+        handed_over_ = false;
     }
 }
 
-// The program may leave at once, and what is not on the bus by then is lost. An answer of the bus
-// itself says that it has all that was sent before.
+// What is not on the bus when the program leaves is lost. An answer of the bus itself says that it
+// has all that was sent before.
 void desktop_notices::hand_over() {
+    if (handed_over_) {
+        return;
+    }
     constexpr int patience_ms = 500;
     const QString bus_itself = QStringLiteral("org.freedesktop.DBus");
     bus_.call(QDBusMessage::createMethodCall(bus_itself, QStringLiteral("/org/freedesktop/DBus"),
                                              bus_itself, QStringLiteral("GetId")),
               QDBus::Block, patience_ms);
+    handed_over_ = true;
+}
+
+// Another service counts anew: its numbers name other programs' notices.
+void desktop_notices::forget_service() {
+    for (auto& [shown, id] : open_) {
+        id = 0;
+    }
+}
+
+void desktop_notices::NotificationClosed(quint32 id, quint32 /*reason*/) {
+    for (auto& [shown, known] : open_) {
+        if (known == id) {
+            known = 0;
+        }
+    }
 }
 
 void desktop_notices::ActivationToken(quint32 id, const QString& token) {
@@ -107,8 +133,8 @@ void desktop_notices::ActionInvoked(quint32 id, const QString& action) {
 }
 
 bool desktop_notices::on_show(quint32 id) const {
-    return std::any_of(open_.begin(), open_.end(),
-                       [id](const auto& one) { return one.second == id; });
+    return id != 0 && std::any_of(open_.begin(), open_.end(),
+                                  [id](const auto& one) { return one.second == id; });
 }
 
 void desktop_notices::call(const char* method, const QVariantList& arguments,

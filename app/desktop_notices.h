@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -26,10 +27,12 @@ public:
     void when_opened(std::function<void(const std::string& token)> opened) override;
     int show(const notice& what) override;
     void close(int shown) override;
+    void hand_over() override;
 
 private Q_SLOTS:
     void ActivationToken(quint32 id, const QString& token);
     void ActionInvoked(quint32 id, const QString& action);
+    void NotificationClosed(quint32 id, quint32 reason);
 
 private:
     // Sends a call to the service; `answered` gets what it returns, and nothing on an error.
@@ -39,11 +42,13 @@ private:
     void send(int shown, const notice& what, const QStringList& capabilities);
     void sent(int shown, quint32 id);
     bool on_show(quint32 id) const;
-    void hand_over();
+    void forget_service();
 
     QDBusConnection bus_;
+    QDBusServiceWatcher service_;
     std::function<void(const std::string& token)> opened_;
-    std::map<int, quint32> open_; // the service's numbers; 0 until it has told them
+    std::map<int, quint32> open_; // the service's numbers; 0 while it has none of them
     int last_ = 0;
+    bool handed_over_ = true;
     std::string token_; // comes before the choice that it belongs to
 };

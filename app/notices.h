@@ -13,7 +13,7 @@ struct notice {
     bool urgent = false;
 };
 
-// The desktop's notices. Nothing here waits or fails: where there is no such service, nobody sees
+// The desktop's notices. Nothing here fails, and only hand_over() waits: where there is no such service, nobody sees
 // them. Interface thread.
 class notices {
 public:
@@ -25,4 +25,7 @@ public:
     virtual int show(const notice& what) = 0;
     // Takes a notice of show() away, whether the desktop has shown it already or not.
     virtual void close(int shown) = 0;
+    // The program is about to leave, and what has been asked for has to be on its way. Takes half a
+    // second at most.
+    virtual void hand_over() = 0;
 };

@@ -104,7 +104,7 @@ TEST_F(notice_of_a_message, IsUrgentForTheErrorThatEndsTheProgramAndNamesNoEnclo
     minimise();
     window->show_error_and_exit("error_open_device");
     EXPECT_THAT(desktop.log,
-                ElementsAre("show 1 urgent [error] error (ui_open_window)", "close 1"));
+                ElementsAre("show 1 urgent [error] error (ui_open_window)", "close 1", "hand over"));
 }
 
 TEST_F(notice_of_a_message, IsUrgentForAChangeThatFailed) {

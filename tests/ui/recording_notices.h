@@ -28,6 +28,8 @@ public:
 
     void close(int shown) override { log.push_back("close " + std::to_string(shown)); }
 
+    void hand_over() override { log.push_back("hand over"); }
+
 private:
     std::function<void(const std::string& token)> opened_;
     int shown_ = 0;
