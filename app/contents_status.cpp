@@ -5,6 +5,7 @@
 
 #include "app/controller.h"
 #include "app/numbered_step.h"
+#include "app/places.h"
 #include "app/placing.h"
 #include "app/text_field.h"
 #include "app/titled_box.h"
@@ -14,13 +15,11 @@
 
 namespace {
 
-constexpr int bay_distance = 320;
-constexpr QRect picture_place(140, 120, 104, 120);
 constexpr QRect label_place(260, 122, 176, 22);
 constexpr QRect mode_place(260, 148, 176, 36);
 
 QRect bay(int port, const QRect& first) {
-    return first.translated(port * bay_distance, 0);
+    return first.translated(port * places::bay_distance, 0);
 }
 
 text_field* line(QWidget* parent, const char* name, const QRect& where, const char* role) {
@@ -35,7 +34,7 @@ text_field* wrapped(text_field* field) {
 
 void build_empty_bay(status_extras& extras, QWidget* page, int port) {
     const auto place = static_cast<std::size_t>(port);
-    extras.empty_pictures[place] = make<QLabel>(page, bay(port, picture_place));
+    extras.empty_pictures[place] = make<QLabel>(page, bay(port, places::disk_picture));
     extras.empty_captions[place] =
         with_role(make<text_field>(page, bay(port, label_place)), "caption", "quiet");
     extras.empty_words[place] =
@@ -43,17 +42,18 @@ void build_empty_bay(status_extras& extras, QWidget* page, int port) {
 }
 
 void build_bays(controller& window, QWidget* page) {
-    constexpr QRect capacity(260, 204, 176, 32);
-    window.disk0cappicture = make<text_field>(page, "disk0cappicture", bay(0, picture_place));
-    window.disk1cappicture = make<text_field>(page, "disk1cappicture", bay(1, picture_place));
+    window.disk0cappicture =
+        make<text_field>(page, "disk0cappicture", bay(0, places::disk_picture));
+    window.disk1cappicture =
+        make<text_field>(page, "disk1cappicture", bay(1, places::disk_picture));
     window.disk0label = line(page, "disk0label", bay(0, label_place), "caption");
     window.disk1label = line(page, "disk1label", bay(1, label_place), "caption");
     window.disk0picmodefield =
         wrapped(line(page, "disk0picmodefield", bay(0, mode_place), "state"));
     window.disk1picmodefield =
         wrapped(line(page, "disk1picmodefield", bay(1, mode_place), "state"));
-    window.disk0caplabel = line(page, "disk0caplabel", bay(0, capacity), "number");
-    window.disk1caplabel = line(page, "disk1caplabel", bay(1, capacity), "number");
+    window.disk0caplabel = line(page, "disk0caplabel", bay(0, places::disk_capacity), "number");
+    window.disk1caplabel = line(page, "disk1caplabel", bay(1, places::disk_capacity), "number");
     window.extras->status.bay_divider =
         with_role(make<QFrame>(page, QRect(447, 128, 1, 104)), "hairline");
     for (int port = 0; port < 2; ++port) {
@@ -75,7 +75,7 @@ void build_volume(controller& window, QWidget* page) {
     status_extras& extras = window.extras->status;
     window.raidmodelabel = line(page, "raidmodelabel", QRect(388, 120, 368, 32), "array");
     extras.state_icon = make<QLabel>(page, QRect(388, 159, 16, 16));
-    extras.state = wrapped(line(page, "volume_state", QRect(388, 158, 368, 36), "state"));
+    extras.state = wrapped(line(page, "volume_state", places::volume_state, "state"));
 }
 
 void build_note(status_extras& extras, QWidget* page) {

@@ -6,6 +6,7 @@
 #include "app/controller.h"
 #include "app/direction_evidence.h"
 #include "app/level_indicator.h"
+#include "app/places.h"
 #include "app/placing.h"
 #include "app/radio_matrix.h"
 #include "app/styling.h"
@@ -27,12 +28,11 @@ text_field* line(QWidget* parent, const char* name, const QRect& where, const ch
 }
 
 void build_disks_of_configuration(controller& window, QWidget* page) {
-    constexpr int distance = 60;
     const auto row = [](int port, const QRect& first) {
-        return first.translated(0, port * distance);
+        return first.translated(0, port * places::configured_distance);
     };
     constexpr QRect caption(548, 370, 104, 32);
-    constexpr QRect mode(548, 403, 208, 18);
+    constexpr QRect mode = places::configured_mode;
     constexpr QRect clear(660, 370, 96, 32);
     for (int port = 0; port < 2; ++port) {
         configured_disk& disk = window.extras->configured[static_cast<std::size_t>(port)];

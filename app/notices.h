@@ -13,8 +13,8 @@ struct notice {
     bool urgent = false;
 };
 
-// The desktop's notices. Nothing here fails, and only hand_over() waits: where there is no such service, nobody sees
-// them. Interface thread.
+// The desktop's notices. Nothing here fails, and only hand_over() waits: where there is no such
+// service, nobody sees them. Interface thread.
 class notices {
 public:
     virtual ~notices() = default;

@@ -6,11 +6,12 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QRadioButton>
-#include <QStyle>
 #include <array>
 #include <utility>
 
+#include "app/action_tip.h"
 #include "app/spoken_parts.h"
+#include "app/styling.h"
 #include "app/text_field.h"
 
 namespace {
@@ -47,7 +48,7 @@ void radio_matrix::set_row_text(int row, const QString& name, const QString& mea
     widgets.name->set_value(name);
     widgets.meaning->set_value(meaning);
     widgets.button->setAccessibleName(name);
-    widgets.button->setAccessibleDescription(meaning);
+    set_tip(widgets.button, QString(), meaning);
 }
 
 void radio_matrix::set_in_use_text(const QString& text) {
@@ -66,8 +67,8 @@ void radio_matrix::set_in_use(std::optional<int> row) {
         widgets.in_use->fit_text(Qt::AlignLeft);
         widgets.in_use->set_value(row == other ? in_use_text_ : QString());
         const QString meaning = widgets.meaning->text();
-        widgets.button->setAccessibleDescription(
-            row == other ? QStringLiteral("%1 (%2)").arg(meaning, in_use_text_) : meaning);
+        set_tip(widgets.button, QString(),
+                row == other ? QStringLiteral("%1 (%2)").arg(meaning, in_use_text_) : meaning);
     }
 }
 
@@ -145,8 +146,6 @@ void radio_matrix::take_choice(int row) {
 
 void radio_matrix::show_choice() {
     for (const row_widgets& row : rows_) {
-        row.frame->setProperty("chosen", row.button->isChecked());
-        row.frame->style()->unpolish(row.frame);
-        row.frame->style()->polish(row.frame);
+        restyle(row.frame, "chosen", row.button->isChecked());
     }
 }

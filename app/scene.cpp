@@ -3,7 +3,6 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
-#include <array>
 
 #include "app/announcement.h"
 #include "app/button_reasons.h"
@@ -12,9 +11,11 @@
 #include "app/display_text.h"
 #include "app/krview.h"
 #include "app/level_indicator.h"
+#include "app/localised.h"
 #include "app/numbered_step.h"
 #include "app/outlook.h"
 #include "app/pace_text.h"
+#include "app/places.h"
 #include "app/placing.h"
 #include "app/plain_text.h"
 #include "app/radio_matrix.h"
@@ -30,15 +31,7 @@ namespace {
 
 constexpr QRect volume_picture_place(148, 120, 216, 120);
 constexpr QRect volume_capacity_place(388, 204, 368, 32);
-constexpr QRect disk0_picture_place(140, 120, 104, 120);
-constexpr QRect disk0_capacity_place(260, 204, 176, 32);
-constexpr std::array<QRect, 2> dim_bay_places = {QRect(140, 120, 104, 120),
-                                                 QRect(252, 120, 104, 120)};
-constexpr QSize disk_size(104, 120);
-
-QString localised(const char* key) {
-    return one_line(j.with.texts.text(key));
-}
+constexpr int dim_bay_distance = 112;
 
 void show_note(const status_extras& extras, const char* heading, const QString& text,
                int heading_top) {
@@ -58,8 +51,10 @@ void show_work(controller& window, const char* heading, const QString& text) {
     const status_extras& extras = window.extras->status;
     show_note(extras, heading, text, heading_top);
     for (std::size_t port = 0; port < extras.empty_pictures.size(); ++port) {
-        place(extras.empty_pictures[port], dim_bay_places[port]);
-        show_faint_picture(extras.empty_pictures[port], QStringLiteral("disk-missing"), disk_size);
+        place(extras.empty_pictures[port],
+              places::disk_picture.translated(static_cast<int>(port) * dim_bay_distance, 0));
+        show_faint_picture(extras.empty_pictures[port], QStringLiteral("disk-missing"),
+                           places::disk_picture.size());
         extras.empty_pictures[port]->show();
     }
 }
@@ -134,8 +129,8 @@ void show_chip_scene(controller& window, const view_state& view, const outlook& 
     }
     const bool volume = view.raid_valid;
     window.extras->status.bay_divider->setVisible(!volume);
-    place(window.disk0cappicture, volume ? volume_picture_place : disk0_picture_place);
-    place(window.disk0caplabel, volume ? volume_capacity_place : disk0_capacity_place);
+    place(window.disk0cappicture, volume ? volume_picture_place : places::disk_picture);
+    place(window.disk0caplabel, volume ? volume_capacity_place : places::disk_capacity);
     if (volume) {
         show_picture(window.disk0cappicture, QStringLiteral("volume"), volume_picture_place.size());
     }

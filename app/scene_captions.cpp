@@ -11,6 +11,7 @@
 #include "app/display_text.h"
 #include "app/gated_tab_bar.h"
 #include "app/level_indicator.h"
+#include "app/localised.h"
 #include "app/numbered_step.h"
 #include "app/plain_text.h"
 #include "app/radio_matrix.h"
@@ -26,10 +27,6 @@
 namespace {
 
 constexpr std::array<const char*, 2> disk_keys = {"disk_1", "disk_2"};
-
-QString localised(const char* key) {
-    return one_line(j.with.texts.text(key));
-}
 
 void caption_frame(controller& window) {
     window.extras->page_captions[0]->set_value(localised("raid_status"));

@@ -4,23 +4,17 @@
 #include <QLabel>
 
 #include "app/controller.h"
+#include "app/localised.h"
+#include "app/places.h"
 #include "app/placing.h"
-#include "app/plain_text.h"
 #include "app/status_display.h"
 #include "app/styling.h"
 #include "app/text_field.h"
 #include "app/window_extras.h"
-#include "model/krtool.h"
 
 namespace {
 
-constexpr QRect disk0_picture_place(140, 120, 104, 120);
-constexpr QSize disk_size(104, 120);
 constexpr QSize card_picture_size(45, 52);
-
-QString localised(const char* key) {
-    return one_line(j.with.texts.text(key));
-}
 
 const char* picture_of(disk_condition condition) {
     switch (condition) {
@@ -47,10 +41,10 @@ const char* tone_of(disk_condition condition) {
 }
 
 void show_empty_bay(const status_extras& extras, std::size_t port) {
-    constexpr int bay_distance = 320;
     place(extras.empty_pictures[port],
-          disk0_picture_place.translated(static_cast<int>(port) * bay_distance, 0));
-    show_picture(extras.empty_pictures[port], QStringLiteral("disk-missing"), disk_size);
+          places::disk_picture.translated(static_cast<int>(port) * places::bay_distance, 0));
+    show_picture(extras.empty_pictures[port], QStringLiteral("disk-missing"),
+                 places::disk_picture.size());
     extras.empty_pictures[port]->show();
     extras.empty_captions[port]->show();
     extras.empty_words[port]->show();
@@ -58,13 +52,14 @@ void show_empty_bay(const status_extras& extras, std::size_t port) {
 
 // On the configuration tab: the icon stands before the mode.
 void show_configured(controller& window, const disk_view& disk, std::size_t port) {
-    constexpr int row_distance = 60;
-    constexpr QRect full(548, 403, 208, 18);
-    constexpr QRect beside_icon(570, 403, 186, 18);
+    constexpr int icon_room = 22;
     const configured_disk& extras = window.extras->configured[port];
     text_field* mode = port == 0 ? window.disk0modefield : window.disk1modefield;
     const bool well = disk.condition == disk_condition::good;
-    place(mode, (well ? full : beside_icon).translated(0, static_cast<int>(port) * row_distance));
+    QRect mode_place =
+        places::configured_mode.translated(0, static_cast<int>(port) * places::configured_distance);
+    mode_place.setLeft(mode_place.left() + (well ? 0 : icon_room));
+    place(mode, mode_place);
     set_tone(mode, well ? "quiet" : tone_of(disk.condition));
     show_picture(extras.icon,
                  disk.condition == disk_condition::broken ? QStringLiteral("status-error")
@@ -110,7 +105,7 @@ void clear_card(const rebuild_card& card) {
 
 void show_disk_scene(controller& window, const disk_view& disk, std::size_t port) {
     text_field* picture = port == 0 ? window.disk0cappicture : window.disk1cappicture;
-    show_picture(picture, QLatin1String(picture_of(disk.condition)), disk_size);
+    show_picture(picture, QLatin1String(picture_of(disk.condition)), places::disk_picture.size());
     set_tone(port == 0 ? window.disk0picmodefield : window.disk1picmodefield,
              tone_of(disk.condition));
     show_configured(window, disk, port);

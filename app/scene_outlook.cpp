@@ -7,6 +7,7 @@
 #include "app/action_tip.h"
 #include "app/controller.h"
 #include "app/outlook.h"
+#include "app/places.h"
 #include "app/placing.h"
 #include "app/plain_text.h"
 #include "app/radio_matrix.h"
@@ -17,8 +18,7 @@
 
 namespace {
 
-constexpr QRect state_place(388, 158, 368, 36);
-constexpr QRect state_place_beside_icon(412, 158, 344, 36);
+constexpr int icon_room = 24;
 
 // The name of a state for icons and colours.
 const char* state_of(verdict is) {
@@ -52,7 +52,9 @@ void show_link(const status_extras& extras, bool wanted) {
 
 void show_state_line(const status_extras& extras, const outlook& now) {
     const bool well = now.is != verdict::rebuilding;
-    place(extras.state, well ? state_place : state_place_beside_icon);
+    QRect state_place = places::volume_state;
+    state_place.setLeft(state_place.left() + (well ? 0 : icon_room));
+    place(extras.state, state_place);
     extras.state->set_value(one_line(now.state));
     set_tone(extras.state, well ? "quiet" : "busy");
     show_picture(extras.state_icon, QStringLiteral("status-busy"), QSize(16, 16));

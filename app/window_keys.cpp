@@ -10,10 +10,9 @@
 #include "app/controller_box.h"
 #include "app/gated_tab_bar.h"
 #include "app/krview.h"
-#include "app/plain_text.h"
+#include "app/localised.h"
 #include "app/tab_view.h"
 #include "app/window_extras.h"
-#include "model/krtool.h"
 
 namespace {
 
@@ -62,7 +61,7 @@ void give_keys(controller& window) {
     }
     constexpr std::array<const char*, 2> tabs = {"configuration_tab", "rebuild"};
     for (std::size_t tab = 0; tab < tabs.size(); ++tab) {
-        const QString name = one_line(j.with.texts.text(tabs[tab]));
+        const QString name = localised(tabs[tab]);
         window.tabview->bar()->setTabToolTip(static_cast<int>(tab),
                                              name_and_key(name, tab_keys[tab]));
     }
