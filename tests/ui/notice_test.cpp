@@ -103,8 +103,8 @@ TEST_F(notice_of_a_message, IsUrgentForAnAlertOfTheArray) {
 TEST_F(notice_of_a_message, IsUrgentForTheErrorThatEndsTheProgramAndNamesNoEnclosure) {
     minimise();
     window->show_error_and_exit("error_open_device");
-    EXPECT_THAT(desktop.log,
-                ElementsAre("show 1 urgent [error] error (ui_open_window)", "close 1", "hand over"));
+    EXPECT_THAT(desktop.log, ElementsAre("show 1 urgent [error] error (ui_open_window)", "close 1",
+                                         "hand over"));
 }
 
 TEST_F(notice_of_a_message, IsUrgentForAChangeThatFailed) {
