@@ -43,7 +43,7 @@ QStringList our_languages() {
 
 QString language_for(const QStringList& preferred) {
     for (const QString& wish : preferred) {
-        if (const QString table = table_for(wish); !table.isEmpty()) {
+        if (QString table = table_for(wish); !table.isEmpty()) {
             return table;
         }
     }

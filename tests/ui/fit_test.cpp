@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QLabel>
-#include <QTimer>
 #include <gmock/gmock.h>
 
 #include "app/guide.h"
@@ -35,12 +34,8 @@ protected:
     // Measures the panel while it is open.
     std::vector<std::string> misfits_of_panel(const panel_request& request) {
         std::vector<std::string> found;
-        input_guard guard;
-        QTimer::singleShot(0, window->mainview, [&] {
-            found = lines_of(misfits(*guard.topmost_panel()));
-            dismiss_topmost_panel(guard);
-        });
-        run_panel(window->mainview, guard, request);
+        visit_dialog([&](input_guard& guard) { run_panel(window->mainview, guard, request); },
+                     [&](const QWidget& panel) { found = lines_of(misfits(panel)); });
         return found;
     }
 
@@ -95,14 +90,11 @@ TEST_P(every_text, FitsInEveryMessage) {
 
 TEST_P(every_text, FitsInTheGuide) {
     std::vector<std::string> found;
-    input_guard guard;
-    QTimer::singleShot(0, window->mainview, [&] {
-        const QWidget* guide = guard.topmost_panel();
-        found = lines_of(misfits(*guide));
-        EXPECT_TRUE(window->mainview->rect().contains(guide->geometry()));
-        dismiss_topmost_panel(guard);
-    });
-    run_guide(window->mainview, guard, texts);
+    visit_dialog([this](input_guard& guard) { run_guide(window->mainview, guard, texts); },
+                 [&](const QWidget& guide) {
+                     found = lines_of(misfits(guide));
+                     EXPECT_TRUE(window->mainview->rect().contains(guide.geometry()));
+                 });
     EXPECT_THAT(found, IsEmpty());
 }
 

@@ -1,6 +1,9 @@
 // How the array stands, in words.
 #include "app/outlook.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+#include <algorithm>
 #include <gmock/gmock.h>
 
 #include "app/display_text.h"
@@ -253,7 +256,7 @@ TEST_F(outlooks, HoldTogetherForEveryPairOfRecords) {
             for (unsigned bits = 0; bits < 64; ++bits) {
                 chip = krchip();
                 put_disk(chip.disks[0], capacity, mode0, capacity - 16);
-                put_disk(chip.disks[1], capacity - 4 * (bits & 1), mode1, capacity - 17);
+                put_disk(chip.disks[1], capacity - 4ULL * (bits & 1), mode1, capacity - 17);
                 chip.disks[0].present = (bits >> 1) & 1;
                 chip.disks[1].present = (bits >> 2) & 1;
                 chip.disks[0].rebuild_mark = (bits >> 3) & 1;

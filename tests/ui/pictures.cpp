@@ -2,7 +2,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
-#include <QTimer>
 
 #include "app/guide.h"
 #include "app/krview.h"
@@ -62,15 +61,7 @@ protected:
 
     // Saves what `open` opens over the window, and closes it.
     void save_open(const QString& name, const std::function<void(input_guard& guard)>& open) {
-        input_guard guard;
-        QTimer visit;
-        visit.setSingleShot(true);
-        QObject::connect(&visit, &QTimer::timeout, window->mainview, [this, name, &guard] {
-            save(name);
-            dismiss_topmost_panel(guard);
-        });
-        visit.start();
-        open(guard);
+        visit_dialog(open, [this, &name](const QWidget&) { save(name); });
     }
 };
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QPushButton>
+#include <QTimer>
 #include <QVariantAnimation>
 #include <algorithm>
 #include <map>
@@ -174,6 +175,19 @@ void spoken_window::settle() {
         });
     });
     QCoreApplication::processEvents();
+}
+
+void spoken_window::visit_dialog(const std::function<void(input_guard& guard)>& open,
+                                 const std::function<void(const QWidget& dialog)>& look) {
+    input_guard guard;
+    QTimer visit;
+    visit.setSingleShot(true);
+    QObject::connect(&visit, &QTimer::timeout, window->mainview, [&] {
+        look(*guard.topmost_panel());
+        dismiss_topmost_panel(guard);
+    });
+    visit.start();
+    open(guard);
 }
 
 void spoken_window::prepare_disks(krchip& chip, int mode0, int mode1) {

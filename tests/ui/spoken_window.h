@@ -26,6 +26,10 @@ protected:
     // Serves the window until nothing moves in it.
     void settle();
 
+    // Opens a dialog over the window, looks at it and dismisses it.
+    void visit_dialog(const std::function<void(input_guard& guard)>& open,
+                      const std::function<void(const QWidget& dialog)>& look);
+
     // Two disks with these modes; the array's size and kind are those of the first.
     void prepare_disks(krchip& chip, int mode0, int mode1);
 
