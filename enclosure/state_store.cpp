@@ -124,7 +124,9 @@ bool sync_folder(const fs::path& folder) {
 }
 
 bool replace(const fs::path& file, const std::string& text) {
-    const fs::path fresh = file.parent_path() / ("." + file.filename().string() + ".new");
+    std::string hidden = ".";
+    hidden.append(file.filename().string()).append(".new");
+    const fs::path fresh = file.parent_path() / hidden;
     const file_handle handle(
         ::open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600));
     return handle && write_whole(handle, text) && ::fsync(handle.get()) == 0 &&
