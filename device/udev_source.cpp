@@ -8,6 +8,12 @@
 #include <system_error>
 #include <utility>
 
+namespace {
+
+constexpr int most_failures = 1000; // to read an event, one after the other
+
+} // namespace
+
 udev_source::udev_source() : udev_source(std::make_unique<udev_events>(), sysfs_arrival_number) {}
 
 udev_source::udev_source(std::unique_ptr<node_events> events, arrival_number arrival)
@@ -27,17 +33,37 @@ bool udev_source::listen(listener told) {
 }
 
 bool udev_source::process() {
-    bool lost = false;
     while (const std::optional<node_event> event = events_->next()) {
-        lost = lost || event->what == node_event::kind::lost;
-        if (!lost) {
-            take(*event);
+        if (event->what == node_event::kind::lost) {
+            return make_good();
         }
-    }
-    if (lost) {
-        look_at_everything();
+        take(*event);
     }
     return true;
+}
+
+// What is still to be read happened before the look at everything, and counts no more.
+bool udev_source::make_good() {
+    for (int failures = 0; failures < most_failures;) {
+        const std::optional<node_event> event = events_->next();
+        if (!event) {
+            look_at_everything();
+            return true;
+        }
+        failures = event->what == node_event::kind::lost ? failures + 1 : 0;
+    }
+    end();
+    return false;
+}
+
+void udev_source::end() {
+    while (!present_.empty()) {
+        depart(std::string(present_.begin()->first));
+    }
+    if (!std::exchange(ended_, true)) {
+        print_err("udev is not heard any more; start the program again for enclosures on USB and "
+                  "FireWire\n");
+    }
 }
 
 bool udev_source::catch_up() {

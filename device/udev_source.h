@@ -23,7 +23,8 @@ public:
 
     bool listen(listener told) override;
 
-    // After events were lost, the rest is dropped and every node looked at once.
+    // After events were lost, the rest is dropped and every node looked at once. False: nothing can
+    // be read any more.
     bool process() override;
 
     // Takes in what udev has told; it tells of a node a little after the kernel has made it.
@@ -34,7 +35,9 @@ public:
 
 private:
     void take(const node_event& event);
+    bool make_good();
     void look_at_everything();
+    void end();
     std::vector<bridge_node> nodes_there() const;
     void arrive(const bridge_node& node);
     void depart(const std::string& path);
@@ -45,4 +48,5 @@ private:
     listener told_;
     udev_pointer<udev> context_;
     std::map<std::string, bridge_node> present_; // by path
+    bool ended_ = false;
 };

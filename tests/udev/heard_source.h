@@ -8,19 +8,21 @@
 #include <utility>
 #include <vector>
 
-// udev's events, of which a test can lose some.
-class lossy_events final : public node_events {
+// How udev's events reach the source.
+enum class hearing { good, loses_events, broken };
+
+class mock_events final : public node_events {
 public:
-    explicit lossy_events(const bool& lose) : lose_(lose) {}
+    explicit mock_events(const hearing& how) : how_(how) {}
 
     bool open() override { return real_.open(); }
     int descriptor() const override { return real_.descriptor(); }
 
     // Instead of everything that came while events were being lost, it says so once.
     std::optional<node_event> next() override {
-        bool missed = false;
+        bool missed = how_ == hearing::broken;
         while (std::optional<node_event> event = real_.next()) {
-            if (!lose_) {
+            if (how_ == hearing::good) {
                 return event;
             }
             missed = true;
@@ -29,7 +31,7 @@ public:
     }
 
 private:
-    const bool& lose_;
+    const hearing& how_;
     udev_events real_;
 };
 
@@ -37,7 +39,7 @@ private:
 class heard_source {
 public:
     std::uint64_t arrival = 1;
-    bool lose_events = false;
+    hearing how = hearing::good;
     int looks = 0;                        // at nodes that lead to bridges
     std::vector<bridge_identity> bridges; // in the order of their arrival
     std::vector<std::string> told;        // "+1" arrived, "-1" departed: the bridge's order
@@ -46,7 +48,7 @@ public:
         return source_.listen({[this](const bridge_identity& bridge) { note_arrival(bridge); },
                                [this](std::uint32_t handle) { note_departure(handle); }});
     }
-    void process() { source_.process(); }
+    bool process() { return source_.process(); }
 
 private:
     void note_arrival(const bridge_identity& bridge) {
@@ -63,7 +65,7 @@ private:
         told.push_back("-" + std::to_string(order));
     }
 
-    udev_source source_{std::make_unique<lossy_events>(lose_events), [this](const std::string&) {
+    udev_source source_{std::make_unique<mock_events>(how), [this](const std::string&) {
                             ++looks;
                             return arrival;
                         }};

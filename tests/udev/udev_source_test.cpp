@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <memory>
 #include <optional>
@@ -168,7 +171,7 @@ TEST_F(UdevSource, LostEventsAreMadeGoodByOneLookAtEverything) {
     plug(bridge_);
     ASSERT_EQ(source_.told, (told{"+1", "+2"}));
 
-    source_.lose_events = true;
+    source_.how = hearing::loses_events;
     source_.looks = 0;
     bus_.tell("remove", at_, bridge_);
     take_out(bridge_);
@@ -180,10 +183,23 @@ TEST_F(UdevSource, LostEventsAreMadeGoodByOneLookAtEverything) {
 TEST_F(UdevSource, ABridgeThatLeftAndCameBackWhileEventsWereLostArrivesAnew) {
     source_.listen();
     plug(bridge_);
-    source_.lose_events = true;
+    source_.how = hearing::loses_events;
     ++source_.arrival;
     tell("change", bridge_);
     EXPECT_EQ(source_.told, (told{"+1", "-1", "+2"}));
+}
+
+TEST_F(UdevSource, WhenNothingCanBeReadAnyMoreEveryBridgeDepartsAndOneLineSaysSo) {
+    source_.listen();
+    plug(bridge_);
+    source_.how = hearing::broken;
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(source_.process());
+    EXPECT_FALSE(source_.process());
+    const std::string line = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(source_.told, (told{"+1", "-1"}));
+    EXPECT_EQ(line.find("udev is not heard any more"), 0U);
+    EXPECT_EQ(line.find('\n'), line.size() - 1);
 }
 
 // Says why there is nothing to listen to.
@@ -209,6 +225,25 @@ TEST(UdevSourceAlone, WithoutUdevThereIsOneLineAndNothingToListenTo) {
 TEST(UdevSourceAlone, AFolderThatHasGoneHasNoArrivalNumber) {
     EXPECT_NE(sysfs_arrival_number("/proc"), 0U);
     EXPECT_EQ(sysfs_arrival_number("/sys/nothing/of/that/name"), 0U);
+}
+
+TEST(UdevEvents, WhatHasNotComeIsNotWaitedFor) {
+    const mock_bus bus;
+    udev_events events;
+    ASSERT_TRUE(events.open());
+    EXPECT_FALSE(events.next());
+}
+
+TEST(UdevEvents, AFailureToReadCountsAsEventsLost) {
+    const mock_bus bus;
+    udev_events events;
+    ASSERT_TRUE(events.open());
+    const int no_socket = ::open("/dev/null", O_RDWR | O_CLOEXEC);
+    ASSERT_GE(::dup2(no_socket, events.descriptor()), 0);
+    ::close(no_socket);
+    const std::optional<node_event> event = events.next();
+    ASSERT_TRUE(event);
+    EXPECT_EQ(event->what, node_event::kind::lost);
 }
 
 } // namespace
