@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -45,7 +46,7 @@ std::string bounded(std::string text, std::size_t most) {
 }
 
 // Nothing when the object does not describe a bridge that fits its path.
-std::optional<emulated_bridge>
+std::optional<bridge_identity>
 bridge_in(const sdbus::ObjectPath& path,
           const std::map<std::string, std::map<std::string, sdbus::Variant>>& interfaces) {
     const auto described = interfaces.find(bridge_interface);
@@ -53,7 +54,7 @@ bridge_in(const sdbus::ObjectPath& path,
         return std::nullopt;
     }
     const std::map<std::string, sdbus::Variant>& from = described->second;
-    emulated_bridge bridge;
+    bridge_identity bridge;
     bridge.handle = property<std::uint32_t>(from, "Handle");
     const auto bus = property<std::string>(from, "Bus");
     if (bridge.handle == 0 || path != bridge_folder + std::to_string(bridge.handle) ||
@@ -72,7 +73,19 @@ bridge_in(const sdbus::ObjectPath& path,
 
 } // namespace
 
-void emulated_bus::listen() {
+bool emulated_bus::listen(listener told) {
+    told_ = std::move(told);
+    try {
+        join();
+        return true;
+    } catch (const sdbus::Error& error) {
+        print_err("no session bus: " + error.getMessage() +
+                  "; start the program from a desktop session or under dbus-run-session\n");
+        return false;
+    }
+}
+
+void emulated_bus::join() {
     connection_ = sdbus::createSessionBusConnection();
     connection_->setMethodCallTimeout(answer_limit);
     add_matches();
@@ -141,23 +154,23 @@ bool emulated_bus::enumerate() {
     } catch (const sdbus::Error&) {
         return false;
     }
-    std::vector<emulated_bridge> found;
+    std::vector<bridge_identity> found;
     for (const auto& [path, held] : objects) {
-        if (const std::optional<emulated_bridge> bridge = bridge_in(path, held)) {
+        if (const std::optional<bridge_identity> bridge = bridge_in(path, held)) {
             found.push_back(*bridge);
         }
     }
     // Handles are given in the order of arrival; paths sort as text.
-    std::sort(found.begin(), found.end(), [](const emulated_bridge& a, const emulated_bridge& b) {
+    std::sort(found.begin(), found.end(), [](const bridge_identity& a, const bridge_identity& b) {
         return a.handle < b.handle;
     });
-    for (const emulated_bridge& bridge : found) {
+    for (const bridge_identity& bridge : found) {
         take_in(bridge);
     }
     return true;
 }
 
-void emulated_bus::take_in(const emulated_bridge& bridge) {
+void emulated_bus::take_in(const bridge_identity& bridge) {
     if (present_.size() < most_bridges &&
         std::find(present_.begin(), present_.end(), bridge.handle) == present_.end()) {
         present_.push_back(bridge.handle);
@@ -181,7 +194,7 @@ void emulated_bus::object_added(sdbus::Message& message) {
     sdbus::ObjectPath path;
     interfaces added;
     message >> path >> added;
-    if (const std::optional<emulated_bridge> bridge = bridge_in(path, added)) {
+    if (const std::optional<bridge_identity> bridge = bridge_in(path, added)) {
         take_in(*bridge);
     }
 }
@@ -213,8 +226,20 @@ void emulated_bus::all_departed() {
     }
 }
 
+void emulated_bus::bus_has_gone() {
+    all_departed();
+    if (!std::exchange(gone_, true)) {
+        print_err("the session bus has gone; start the program again for its enclosures\n");
+    }
+}
+
+pollfd emulated_bus::watched() const {
+    const sdbus::IConnection::PollData data = connection_->getEventLoopPollData();
+    return {data.fd, data.events, 0};
+}
+
 int emulated_bus::poll_timeout() const {
-    const int of_bus = poll_data().getPollTimeout();
+    const int of_bus = connection_->getEventLoopPollData().getPollTimeout();
     const auto pause = static_cast<int>(std::chrono::milliseconds(ask_again_pause).count());
     return asked_in_vain_ && (of_bus < 0 || of_bus > pause) ? pause : of_bus;
 }
@@ -226,7 +251,7 @@ bool emulated_bus::process() {
         ask_again();
         return true;
     } catch (const sdbus::Error&) {
-        all_departed();
+        bus_has_gone();
         return false;
     }
 }

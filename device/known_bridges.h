@@ -1,4 +1,4 @@
-// What is known of the emulated bridges, as entries of the registry.
+// What is known of the bridges, as entries of the registry.
 #pragma once
 
 #include "device/registry.h"
@@ -11,7 +11,7 @@
 #include <string_view>
 
 // A bridge as it described itself on arrival.
-struct emulated_bridge {
+struct bridge_identity {
     std::uint32_t handle = 0;
     bool firewire = false;
     std::uint32_t vendor_id = 0;
@@ -20,16 +20,17 @@ struct emulated_bridge {
     std::string serial;
     std::uint64_t guid = 0;
     std::string name;
+    bool announced = true; // false: another way to a bridge that has been announced already
 };
 
 // Every arrival gets a number of its own, even if a handle comes twice. Each bridge has eight
 // entries, from its bus device down to its name. Any thread.
-class emulated_bridges {
+class known_bridges {
 public:
     using number_type = std::uint64_t;
 
     // Takes in a bridge and gives its number.
-    number_type add(const emulated_bridge& bridge);
+    number_type add(const bridge_identity& bridge);
     void forget(number_type number);
 
     // The latest bridge with the handle; 0 when there is none.
@@ -46,9 +47,9 @@ public:
     std::u16string text(registry_entry entry, std::string_view property) const;
 
 private:
-    std::optional<emulated_bridge> owner_of(registry_entry entry) const;
+    std::optional<bridge_identity> owner_of(registry_entry entry) const;
 
     mutable plain_mutex mutex_;
-    std::map<number_type, emulated_bridge> bridges_ GUARDED_BY(mutex_);
+    std::map<number_type, bridge_identity> bridges_ GUARDED_BY(mutex_);
     number_type last_ GUARDED_BY(mutex_) = 0;
 };

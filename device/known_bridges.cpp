@@ -1,4 +1,4 @@
-#include "device/emulated_bridges.h"
+#include "device/known_bridges.h"
 
 #include "device/hotplug.h"
 #include "util/functions.h"
@@ -21,18 +21,18 @@ registry_entry level_of(registry_entry entry) {
 
 } // namespace
 
-emulated_bridges::number_type emulated_bridges::add(const emulated_bridge& bridge) {
+known_bridges::number_type known_bridges::add(const bridge_identity& bridge) {
     const mutex_scope guard(mutex_);
     bridges_.emplace(++last_, bridge);
     return last_;
 }
 
-void emulated_bridges::forget(number_type number) {
+void known_bridges::forget(number_type number) {
     const mutex_scope guard(mutex_);
     bridges_.erase(number);
 }
 
-registry_entry emulated_bridges::entry_of(std::uint32_t device) const {
+registry_entry known_bridges::entry_of(std::uint32_t device) const {
     const mutex_scope guard(mutex_);
     const auto latest = std::find_if(bridges_.rbegin(), bridges_.rend(), [device](const auto& one) {
         return one.second.handle == device;
@@ -40,28 +40,28 @@ registry_entry emulated_bridges::entry_of(std::uint32_t device) const {
     return latest == bridges_.rend() ? 0 : latest->first << level_bits | bridge_level;
 }
 
-std::uint32_t emulated_bridges::handle_of(number_type number) const {
+std::uint32_t known_bridges::handle_of(number_type number) const {
     const mutex_scope guard(mutex_);
     const auto found = bridges_.find(number);
     return found == bridges_.end() ? 0 : found->second.handle;
 }
 
-std::optional<emulated_bridge> emulated_bridges::owner_of(registry_entry entry) const {
+std::optional<bridge_identity> known_bridges::owner_of(registry_entry entry) const {
     const mutex_scope guard(mutex_);
     const auto found = bridges_.find(entry >> level_bits);
     return found == bridges_.end() ? std::nullopt : std::optional(found->second);
 }
 
-registry_entry emulated_bridges::parent(registry_entry entry) const {
+registry_entry known_bridges::parent(registry_entry entry) const {
     return owner_of(entry) && level_of(entry) > bus_device_level ? entry - 1 : 0;
 }
 
-registry_entry emulated_bridges::first_child(registry_entry entry) const {
+registry_entry known_bridges::first_child(registry_entry entry) const {
     return owner_of(entry) && level_of(entry) < name_level ? entry + 1 : 0;
 }
 
-std::string emulated_bridges::name(registry_entry entry) const {
-    const std::optional<emulated_bridge> bridge = owner_of(entry);
+std::string known_bridges::name(registry_entry entry) const {
+    const std::optional<bridge_identity> bridge = owner_of(entry);
     if (!bridge) {
         return {};
     }
@@ -73,12 +73,12 @@ std::string emulated_bridges::name(registry_entry entry) const {
     case name_level:
         return bridge->name;
     default:
-        return "Emulated Node";
+        return "Node";
     }
 }
 
-std::int64_t emulated_bridges::number(registry_entry entry, std::string_view property) const {
-    const std::optional<emulated_bridge> bridge = owner_of(entry);
+std::int64_t known_bridges::number(registry_entry entry, std::string_view property) const {
+    const std::optional<bridge_identity> bridge = owner_of(entry);
     if (!bridge || level_of(entry) != bus_device_level) {
         return 0;
     }
@@ -94,8 +94,8 @@ std::int64_t emulated_bridges::number(registry_entry entry, std::string_view pro
     return property == "locationID" ? bridge->location_id : 0;
 }
 
-std::u16string emulated_bridges::text(registry_entry entry, std::string_view property) const {
-    const std::optional<emulated_bridge> bridge = owner_of(entry);
+std::u16string known_bridges::text(registry_entry entry, std::string_view property) const {
+    const std::optional<bridge_identity> bridge = owner_of(entry);
     if (!bridge || bridge->firewire || level_of(entry) != bus_device_level ||
         property != "USB Serial Number") {
         return {};

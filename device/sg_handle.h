@@ -1,0 +1,14 @@
+// The handle of a bridge that is reached through a SCSI generic node.
+#pragma once
+
+#include <cstdint>
+
+inline constexpr std::uint32_t sg_major = 21;
+inline constexpr std::uint32_t sg_most_minor = 0x7FFF; // the kernel makes no more nodes
+
+// From the node's minor number and the low 16 bits of the number of its arrival (docs/formats.md),
+// so that a node that has come again has another handle. Never 0.
+constexpr std::uint32_t sg_handle(std::uint32_t minor, std::uint64_t arrival) {
+    return 0x80000000U | static_cast<std::uint32_t>(arrival & 0xFFFFU) << 15 |
+           (minor & sg_most_minor);
+}
