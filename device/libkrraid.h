@@ -7,7 +7,8 @@
  * little-endian (docs/formats.md). The caller owns all buffers. Operations on a device are not
  * made two at a time; getDeviceList, openConnection and closeConnection may run beside one.
  *
- * Every operation returns 0 for success, unless it says more.
+ * Every operation returns 0 for success, unless it says more. What the bundled library returns
+ * otherwise is negative and has a name below; another library may return anything else.
  */
 #ifndef KESTREL_LIBKRRAID_H
 #define KESTREL_LIBKRRAID_H
@@ -17,6 +18,15 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+enum {
+    KRRAID_DONE = 0,
+    KRRAID_FAILED = -1,        /* the bridge refused, or was not asked: an argument is wrong */
+    KRRAID_NO_DISK = -2,       /* there is no disk in that bay */
+    KRRAID_NO_ANSWER = -3,     /* in time; the bridge may still be there */
+    KRRAID_NOT_PERMITTED = -4, /* the user has no access to the bridge */
+    KRRAID_GONE = -5           /* the bridge has left, or was not opened */
+};
 
 /* Fills list (2048 bytes) with entries of 8 bytes: the handle in host byte order, then four
    bytes of zero. At most 256. count is the number filled in. */

@@ -1,5 +1,7 @@
 #include "enclosure/bridge_access.h"
 
+#include "device/libkrraid.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -7,12 +9,44 @@ namespace enclosure {
 
 namespace {
 
-constexpr std::int32_t success = 0;
-constexpr std::int32_t failure = -1;
+constexpr std::int32_t success = KRRAID_DONE;
+constexpr std::int32_t failure = KRRAID_FAILED;
 
 constexpr std::size_t list_size = 2048; // bytes
 constexpr std::size_t entry_size = 8;   // handle, then four bytes of zero
 constexpr std::size_t most_entries = list_size / entry_size;
+
+std::int32_t status_of(bridge_commands::outcome outcome) {
+    switch (outcome) {
+    case bridge_commands::outcome::done:
+        return KRRAID_DONE;
+    case bridge_commands::outcome::no_disk:
+        return KRRAID_NO_DISK;
+    case bridge_commands::outcome::no_answer:
+        return KRRAID_NO_ANSWER;
+    case bridge_commands::outcome::not_permitted:
+        return KRRAID_NOT_PERMITTED;
+    case bridge_commands::outcome::gone:
+        return KRRAID_GONE;
+    case bridge_commands::outcome::failed:
+        break;
+    }
+    return KRRAID_FAILED;
+}
+
+std::int32_t status_of(delivery opening) {
+    switch (opening) {
+    case delivery::answered:
+        return KRRAID_DONE;
+    case delivery::no_answer:
+        return KRRAID_NO_ANSWER;
+    case delivery::not_permitted:
+        return KRRAID_NOT_PERMITTED;
+    case delivery::gone:
+        break;
+    }
+    return KRRAID_GONE;
+}
 
 byte_room room(void* buffer, std::size_t length) {
     return {static_cast<std::uint8_t*>(buffer), length};
@@ -29,13 +63,13 @@ template<class Operation>
 std::int32_t bridge_access::on_device(std::uint32_t device, Operation operation) {
     const std::lock_guard lock(mutex_);
     if (!open_.contains(device)) {
-        return failure;
+        return KRRAID_GONE;
     }
     const bridge_commands::outcome outcome = operation();
     if (outcome == bridge_commands::outcome::gone) {
         forget(device);
     }
-    return outcome == bridge_commands::outcome::done ? success : failure;
+    return status_of(outcome);
 }
 
 void bridge_access::forget(std::uint32_t device) {
@@ -43,11 +77,7 @@ void bridge_access::forget(std::uint32_t device) {
     open_.erase(device);
 }
 
-// A list of none may also mean that nobody answered in time.
 void bridge_access::forget_all_but(const std::vector<std::uint32_t>& handles) {
-    if (handles.empty()) {
-        return;
-    }
     const std::set<std::uint32_t> former = open_;
     for (const std::uint32_t device : former) {
         if (std::find(handles.begin(), handles.end(), device) == handles.end()) {
@@ -61,8 +91,11 @@ std::int32_t bridge_access::getDeviceList(void* list, std::int32_t* count) {
         return failure;
     }
     const std::lock_guard lock(mutex_);
-    std::vector<std::uint32_t> handles = way_.bridges();
-    forget_all_but(handles);
+    bridge_listing listing = way_.bridges();
+    std::vector<std::uint32_t>& handles = listing.handles;
+    if (listing.complete) {
+        forget_all_but(handles);
+    }
     handles.resize(std::min(handles.size(), most_entries));
     std::memset(list, 0, list_size);
     for (std::size_t i = 0; i < handles.size(); ++i) {
@@ -75,12 +108,13 @@ std::int32_t bridge_access::getDeviceList(void* list, std::int32_t* count) {
 
 std::int32_t bridge_access::openConnection(std::uint32_t device) {
     const std::lock_guard lock(mutex_);
-    if (!way_.open(device)) {
+    const delivery opening = way_.open(device);
+    if (opening == delivery::answered) {
+        open_.insert(device);
+    } else {
         forget(device);
-        return failure;
     }
-    open_.insert(device);
-    return success;
+    return status_of(opening);
 }
 
 std::int32_t bridge_access::closeConnection(std::uint32_t device) {

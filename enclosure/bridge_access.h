@@ -11,10 +11,10 @@
 
 namespace enclosure {
 
-// Operation by operation as in device/libkrraid.h: 0 is success, -1 failure, nothing else. Any
-// thread; an inner lock lets one operation at a time through. A handle stands for the connection
-// that openConnection made: operations on one that is not open fail, and one whose bridge has
-// gone is open no longer once an operation on it or the device list has shown that.
+// Operation by operation as in device/libkrraid.h, with the statuses named there. Any thread; an
+// inner lock lets one operation at a time through. A handle stands for the connection that
+// openConnection made: operations on one that is not open fail, and one whose bridge has gone is
+// open no longer once an operation on it or the device list has shown that.
 class bridge_access {
 public:
     explicit bridge_access(transport& way) : way_(way), commands_(way) {}

@@ -4,15 +4,33 @@
 
 namespace enclosure {
 
+namespace {
+
+bridge_commands::outcome outcome_without_answer(delivery state) {
+    switch (state) {
+    case delivery::gone:
+        return bridge_commands::outcome::gone;
+    case delivery::not_permitted:
+        return bridge_commands::outcome::not_permitted;
+    default:
+        return bridge_commands::outcome::no_answer;
+    }
+}
+
+} // namespace
+
 bridge_commands::outcome bridge_commands::send(std::uint32_t handle, const vendor_command& command,
                                                byte_view out, byte_room in) {
     const exchange made =
         way_.execute(handle, encode(command), out, static_cast<std::uint32_t>(in.size()));
-    if (made.state == delivery::gone) {
-        return outcome::gone;
+    if (made.state != delivery::answered) {
+        return outcome_without_answer(made.state);
     }
-    if (made.state != delivery::answered || made.reply.status != scsi_status::good ||
-        made.reply.data_in.size() != in.size()) {
+    if (made.reply.status != scsi_status::good) {
+        return decode_sense(made.reply.sense) == sense::no_medium ? outcome::no_disk
+                                                                  : outcome::failed;
+    }
+    if (made.reply.data_in.size() != in.size()) {
         return outcome::failed;
     }
     std::copy(made.reply.data_in.begin(), made.reply.data_in.end(), in.begin());

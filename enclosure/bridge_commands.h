@@ -8,11 +8,17 @@
 
 namespace enclosure {
 
-// Each operation says how the command went: it is done when the chip answered with status good
-// and the expected number of bytes. One thread at a time, as the transport.
+// Each operation says how the command went. One thread at a time, as the transport.
 class bridge_commands {
 public:
-    enum class outcome { done, failed, gone };
+    enum class outcome {
+        done,          // answered with status good and the expected number of bytes
+        failed,        // refused, or answered with less
+        no_disk,       // refused, since there is no disk in the bay
+        no_answer,     // in time
+        not_permitted, // to this user
+        gone,          // the bridge has left
+    };
 
     explicit bridge_commands(transport& way) : way_(way) {}
 

@@ -21,6 +21,13 @@ bool is_broken(const sdbus::Error& error) {
                    "System.Error.ECONNRESET", "System.Error.EPIPE", "System.Error.ESTALE"});
 }
 
+// Nobody answered in time.
+bool is_late(const sdbus::Error& error) {
+    return one_of(error.getName(),
+                  {"org.freedesktop.DBus.Error.NoReply", "org.freedesktop.DBus.Error.Timeout",
+                   "org.freedesktop.DBus.Error.TimedOut", "System.Error.ETIMEDOUT"});
+}
+
 // The service or the bridge's object is not there any more.
 bool is_gone(const sdbus::Error& error) {
     return is_broken(error) ||
@@ -103,31 +110,34 @@ std::vector<std::uint32_t> dbus_transport::bridges_of(const std::string& service
     return handles;
 }
 
-std::vector<std::uint32_t> dbus_transport::bridges() {
+// What became of a request that ended with an error.
+delivery dbus_transport::failed(const sdbus::Error& error) {
+    if (is_broken(error)) {
+        disconnect();
+    }
+    return is_gone(error) ? delivery::gone : delivery::no_answer;
+}
+
+bridge_listing dbus_transport::bridges() {
     try {
-        return bridges_of(owner());
+        return {bridges_of(owner()), true};
     } catch (const sdbus::Error& error) {
-        if (is_broken(error)) {
-            disconnect();
-        }
-        return {};
+        failed(error);
+        return {{}, !is_late(error)};
     }
 }
 
-bool dbus_transport::open(std::uint32_t handle) {
+delivery dbus_transport::open(std::uint32_t handle) {
     try {
         const std::string service_owner = owner();
         const std::vector<std::uint32_t> handles = bridges_of(service_owner);
         if (std::find(handles.begin(), handles.end(), handle) == handles.end()) {
-            return false;
+            return delivery::gone;
         }
         opened_[handle] = service_owner;
-        return true;
+        return delivery::answered;
     } catch (const sdbus::Error& error) {
-        if (is_broken(error)) {
-            disconnect();
-        }
-        return false;
+        return failed(error);
     }
 }
 
@@ -154,10 +164,7 @@ exchange dbus_transport::execute(std::uint32_t handle, byte_view cdb, byte_view 
         reply.status = static_cast<scsi_status>(status);
         return {delivery::answered, std::move(reply)};
     } catch (const sdbus::Error& error) {
-        if (is_broken(error)) {
-            disconnect();
-        }
-        return {is_gone(error) ? delivery::gone : delivery::no_answer, {}};
+        return {failed(error), {}};
     }
 }
 

@@ -14,8 +14,8 @@ namespace enclosure {
 // starts the service: no bus and no service are an empty desk.
 class dbus_transport final : public transport {
 public:
-    std::vector<std::uint32_t> bridges() override;
-    bool open(std::uint32_t handle) override;
+    bridge_listing bridges() override;
+    delivery open(std::uint32_t handle) override;
     void close(std::uint32_t handle) override;
     exchange execute(std::uint32_t handle, byte_view cdb, byte_view data_out,
                      std::uint32_t allocation) override;
@@ -29,6 +29,7 @@ private:
     sdbus::IConnection& connection();
     bool drain();
     void disconnect();
+    delivery failed(const sdbus::Error& error);
 
     std::unique_ptr<sdbus::IConnection> connection_;
     std::map<std::uint32_t, std::string> opened_; // unique name of the service by handle

@@ -103,34 +103,25 @@ class in_process_bench::bench_transport final : public transport {
 public:
     explicit bench_transport(in_process_bench& bench) : bench_(bench) {}
 
-    std::vector<std::uint32_t> bridges() override {
-        std::vector<std::uint32_t> handles;
+    bridge_listing bridges() override {
+        bridge_listing listing;
         for (const bridge& seen : bench_.bridges()) {
-            handles.push_back(seen.handle);
+            listing.handles.push_back(seen.handle);
         }
-        return handles;
+        return listing;
     }
 
-    bool open(std::uint32_t handle) override {
-        const std::vector<std::uint32_t> handles = bridges();
-        return std::find(handles.begin(), handles.end(), handle) != handles.end();
+    delivery open(std::uint32_t handle) override {
+        const std::vector<std::uint32_t> handles = bridges().handles;
+        const bool there = std::find(handles.begin(), handles.end(), handle) != handles.end();
+        return there ? delivery::answered : delivery::gone;
     }
 
     void close(std::uint32_t) override {}
 
     exchange execute(std::uint32_t handle, byte_view cdb, byte_view data_out,
                      std::uint32_t allocation) override {
-        return bench_.with_desk([&](desk& on) {
-            std::optional<scsi_reply> reply = on.execute(handle, cdb, data_out, allocation);
-            if (!reply) {
-                return exchange{delivery::gone, {}};
-            }
-            bench_.now_ += std::min<moment>(reply->delay, answer_limit);
-            if (reply->delay > answer_limit) {
-                return exchange{delivery::no_answer, {}};
-            }
-            return exchange{delivery::answered, std::move(*reply)};
-        });
+        return bench_.execute(handle, cdb, data_out, allocation);
     }
 
 private:
@@ -148,6 +139,21 @@ in_process_bench::~in_process_bench() {
     desk_.reset();
     std::error_code ignored; // a temporary folder may already have been cleaned up
     std::filesystem::remove_all(folder_, ignored);
+}
+
+exchange in_process_bench::execute(std::uint32_t handle, byte_view cdb, byte_view data_out,
+                                   std::uint32_t allocation) {
+    return with_desk([&](desk& on) {
+        std::optional<scsi_reply> reply = on.execute(handle, cdb, data_out, allocation);
+        if (!reply) {
+            return exchange{delivery::gone, {}};
+        }
+        now_ += std::min<moment>(reply->delay, answer_limit);
+        if (reply->delay > answer_limit) {
+            return exchange{delivery::no_answer, {}};
+        }
+        return exchange{delivery::answered, std::move(*reply)};
+    });
 }
 
 void in_process_bench::on_bus_event(bus_handler handler) {

@@ -35,6 +35,10 @@ public:
     // the 5 seconds after which a caller gives up.
     bridge_access& library() { return library_; }
 
+    // A command as a host sends it to a bridge on the bus; the clock moves on as above.
+    exchange execute(std::uint32_t handle, byte_view cdb, byte_view data_out,
+                     std::uint32_t allocation);
+
     // Arrivals and departures in their order and with no lock held, on a thread that uses the
     // bench at the time. The handler may use the bench.
     void on_bus_event(bus_handler handler);

@@ -1,24 +1,20 @@
-// The access library: the twelve operations on the bridges of the host service.
+// The access library: the twelve operations on real bridges and on those of the host service.
 #pragma GCC visibility push(default)
 #include "device/libkrraid.h"
 #pragma GCC visibility pop
 
 #include "enclosure/bridge_access.h"
-#include "enclosure/dbus_transport.h"
+#include "enclosure/library_way.h"
 
 #include <exception>
 
 namespace {
 
-struct library {
-    enclosure::dbus_transport way;
-    enclosure::bridge_access operations{way};
-};
-
 // Never destroyed: the program may end while its threads are still in a call.
 enclosure::bridge_access& operations() {
-    static library* const whole = new library;
-    return whole->operations;
+    static enclosure::bridge_access* const all =
+        new enclosure::bridge_access(enclosure::library_way());
+    return *all;
 }
 
 // No exception may reach a caller that is not written in C++.

@@ -9,7 +9,8 @@
 namespace enclosure {
 
 inline constexpr std::size_t longest_cdb = 16;
-inline constexpr std::size_t sense_size = 18; // fixed format
+inline constexpr std::size_t sense_size = 18;     // fixed format
+inline constexpr std::size_t longest_sense = 252; // that a device may send
 
 enum class scsi_status : std::uint8_t { good = 0x00, check_condition = 0x02 };
 
@@ -41,6 +42,9 @@ struct scsi_reply {
 
 // The 18 bytes for a code.
 std::vector<std::uint8_t> sense_bytes(const sense_code& code);
+
+// The code in sense data of either format; `none` when there is none in it. Any bytes are safe.
+sense_code decode_sense(byte_view bytes);
 
 scsi_reply answered(std::vector<std::uint8_t> data = {});
 scsi_reply refused(const sense_code& code);

@@ -5,7 +5,6 @@
 
 #include <chrono>
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 namespace enclosure {
@@ -15,13 +14,20 @@ inline constexpr std::chrono::seconds answer_limit{5};
 
 enum class delivery {
     answered,
-    no_answer, // in time; the bridge may still be there
-    gone,      // the bridge has left
+    no_answer,     // in time; the bridge may still be there
+    not_permitted, // to this user
+    gone,          // the bridge has left
 };
 
 struct exchange {
     delivery state = delivery::gone;
     scsi_reply reply; // when answered
+};
+
+// The handles of the bridges on the bus, in the order of their arrival.
+struct bridge_listing {
+    std::vector<std::uint32_t> handles;
+    bool complete = true; // false: somebody did not answer in time, there may be more
 };
 
 // Used by one thread at a time; blocks until the answer is there or its time is over. What it
@@ -33,12 +39,11 @@ public:
     transport(const transport&) = delete;
     transport& operator=(const transport&) = delete;
 
-    // The handles of the bridges on the bus, in the order of their arrival; none when there is
-    // nobody to ask.
-    virtual std::vector<std::uint32_t> bridges() = 0;
+    // None when there is nobody to ask.
+    virtual bridge_listing bridges() = 0;
 
-    // Binds a handle to the bridge that has it now; false when none has.
-    virtual bool open(std::uint32_t handle) = 0;
+    // Binds a handle to the bridge that has it now: answered, or why not.
+    virtual delivery open(std::uint32_t handle) = 0;
     virtual void close(std::uint32_t handle) = 0;
 
     // Commands for an opened handle. At most `allocation` bytes come back.

@@ -64,15 +64,15 @@ TEST_F(AbsentService, AfterTheBusWasReplacedTheNewOneIsUsed) {
     private_bus former;
     {
         const bus_address there(former.address());
-        EXPECT_TRUE(way.bridges().empty());
+        EXPECT_TRUE(way.bridges().handles.empty());
     }
     former.end();
     const private_bus later;
     const bus_address there(later.address());
     host_process host;
     const std::uint32_t handle = plug_example(host);
-    EXPECT_EQ(way.bridges(), std::vector{handle});
-    EXPECT_TRUE(way.open(handle));
+    EXPECT_EQ(way.bridges().handles, std::vector{handle});
+    EXPECT_EQ(way.open(handle), enclosure::delivery::answered);
 }
 
 } // namespace

@@ -1,4 +1,6 @@
 // What every implementation of the access library does alike.
+#include "device/libkrraid.h"
+
 #include "tests/contract/worlds.h"
 
 #include "tests/enclosure/builders.h"
@@ -72,10 +74,13 @@ protected:
     World world_;
 };
 
-using worlds = testing::Types<in_process_world, service_world>;
+using worlds = testing::Types<in_process_world, sg_world, service_world>;
 
 struct world_names {
     template<class World> static std::string GetName(int) {
+        if (std::is_same_v<World, sg_world>) {
+            return "ThroughNodes";
+        }
         return std::is_same_v<World, in_process_world> ? "InProcess" : "OverTheBus";
     }
 };
@@ -193,6 +198,19 @@ TYPED_TEST(AccessContract, AnEmptyBayHasNoSectorsAndNoIdentity) {
     EXPECT_NE(this->write(handle, 0, 1, 1, data), 0);
     EXPECT_LT(this->library().krGetDiskIdentify(handle, data.data(), 512, 1), 0);
     EXPECT_EQ(this->library().krGetDiskIdentify(handle, data.data(), 512, 0), 0);
+}
+
+TYPED_TEST(AccessContract, AnEmptyBayARefusalAndABridgeThatLeftAreToldApart) {
+    this->world_.pull("box", 1);
+    const std::uint32_t handle = this->plug_and_open();
+    sector_data data{};
+    EXPECT_EQ(this->read(handle, 0, 1, 1, data), KRRAID_NO_DISK);
+    EXPECT_EQ(this->library().krFlushHDDCache(handle, 1), KRRAID_NO_DISK);
+    EXPECT_EQ(this->library().krGetDiskIdentify(handle, data.data(), 512, 1), KRRAID_NO_DISK);
+    EXPECT_EQ(this->read(handle, large, 0, 1, data), KRRAID_FAILED);
+    this->world_.unplug("box");
+    EXPECT_EQ(this->read(handle, 0, 0, 1, data), KRRAID_GONE);
+    EXPECT_EQ(this->library().openConnection(handle), KRRAID_GONE);
 }
 
 TYPED_TEST(AccessContract, AnIdentityIsServedAsItIs) {

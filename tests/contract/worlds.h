@@ -3,8 +3,11 @@
 
 #include "device/linked_library.h"
 #include "enclosure/in_process_bench.h"
+#include "enclosure/sg_handle.h"
+#include "enclosure/sg_transport.h"
 
 #include "tests/enclosure/host_process.h"
+#include "tests/support/emulated_sg.h"
 #include "tests/support/enclosure_library.h"
 
 #include <cstdint>
@@ -36,9 +39,41 @@ public:
     // After a warm boot: the handle that the bridge has come back with.
     std::uint32_t handle_after_restart(const std::string& name, std::uint32_t former);
 
+protected:
+    enclosure::in_process_bench& bench() { return bench_; }
+
 private:
     enclosure::in_process_bench bench_;
     enclosure_library library_{bench_.library()};
+};
+
+// The same enclosures behind SCSI generic nodes.
+class sg_world : private in_process_world {
+public:
+    access_library& library() { return library_; }
+
+    using in_process_world::add_disk;
+    using in_process_world::add_enclosure;
+    using in_process_world::add_failing_reads;
+    using in_process_world::arrange;
+    using in_process_world::insert;
+    using in_process_world::pull;
+    using in_process_world::set_unlimited;
+    using in_process_world::unplug;
+
+    std::uint32_t plug(const std::string& name) {
+        return enclosure::sg_handle_of(nodes_.node_of(in_process_world::plug(name)));
+    }
+    std::uint32_t handle_after_restart(const std::string& name, std::uint32_t former) {
+        return enclosure::sg_handle_of(
+            nodes_.node_of(in_process_world::handle_after_restart(name, former)));
+    }
+
+private:
+    emulated_sg nodes_{bench()};
+    enclosure::sg_transport way_{nodes_};
+    enclosure::bridge_access operations_{way_};
+    enclosure_library library_{operations_};
 };
 
 // The library that programs link, with a service of the test's own.

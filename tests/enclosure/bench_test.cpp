@@ -1,5 +1,7 @@
 #include "enclosure/in_process_bench.h"
 
+#include "device/libkrraid.h"
+
 #include "tests/enclosure/builders.h"
 
 #include <gtest/gtest.h>
@@ -46,7 +48,7 @@ TEST(Bench, ConnectionsOfBridgesThatLeftDoNotPileUp) {
         ASSERT_EQ(bench.library().openConnection(handle), 0);
         ASSERT_EQ(bench.library().krWarmBoot(handle), 0);
         bench.advance(1s);
-        EXPECT_EQ(bench.library().krFlushHDDCache(handle, 0), -1);
+        EXPECT_EQ(bench.library().krFlushHDDCache(handle, 0), KRRAID_GONE);
     }
     EXPECT_EQ(bench.library().connections(), 0U);
 }

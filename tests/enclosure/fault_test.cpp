@@ -2,6 +2,8 @@
 #include "enclosure/problem.h"
 #include "enclosure/transport.h"
 
+#include "device/libkrraid.h"
+
 #include "tests/enclosure/builders.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +49,7 @@ protected:
 TEST_F(Fault, AFailingReadFailsThereAndNowhereElse) {
     add(fault_kind::fail, io_kind::read);
     sector_data data{};
-    EXPECT_EQ(read(10, 0, data), -1);
+    EXPECT_EQ(read(10, 0, data), KRRAID_FAILED);
     EXPECT_EQ(read(10, 1, data), 0);
     EXPECT_EQ(read(9, 0, data), 0);
     EXPECT_EQ(read(11, 0, data), 0);
@@ -102,7 +104,7 @@ TEST_F(Fault, ADelayBeyondTheLimitIsNone) {
     rule.delay = 6s;
     bench_.add_fault("box", rule);
     sector_data data{};
-    EXPECT_EQ(read(10, 0, data), -1);
+    EXPECT_EQ(read(10, 0, data), KRRAID_NO_ANSWER);
     bench_.clear_faults("box");
     EXPECT_EQ(read(10, 0, data), 0);
 }
@@ -123,7 +125,7 @@ TEST_F(Fault, FaultsStack) {
     add(fault_kind::fail, io_kind::read, 1);
     add(fault_kind::flip, io_kind::read);
     sector_data data{};
-    EXPECT_EQ(read(10, 0, data), -1);
+    EXPECT_EQ(read(10, 0, data), KRRAID_FAILED);
     EXPECT_EQ(read(10, 0, data), 0);
     EXPECT_EQ(data[3], 0xFF);
 }

@@ -1,0 +1,15 @@
+// The nodes that the running kernel has.
+#pragma once
+
+#include "enclosure/sg_nodes.h"
+
+namespace enclosure {
+
+class kernel_sg_nodes final : public sg_nodes {
+public:
+    std::vector<sg_node> chosen() override;
+    opened_node open(const sg_node& node) override;
+    int command(const file_handle& node, sg_io_hdr& request) override;
+};
+
+} // namespace enclosure

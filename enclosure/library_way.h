@@ -1,0 +1,11 @@
+// The way that the access library takes to its bridges.
+#pragma once
+
+#include "enclosure/transport.h"
+
+namespace enclosure {
+
+// Lives until the process ends. Which one it is, is the library's that links it.
+transport& library_way();
+
+} // namespace enclosure

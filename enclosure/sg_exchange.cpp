@@ -1,0 +1,83 @@
+#include "enclosure/sg_exchange.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <optional>
+#include <utility>
+
+namespace enclosure {
+
+namespace {
+
+// How the kernel says that a command did not get through (its include/scsi/scsi_status.h).
+enum host_status : unsigned short { host_ok = 0x00, host_no_connection = 0x01 };
+constexpr unsigned driver_timed_out = 0x06; // the low four bits of the driver's status
+
+// What kept the command from an answer; nothing when there is one.
+std::optional<delivery> trouble_of(int error, const sg_io_hdr& request) {
+    if (error == EACCES || error == EPERM) {
+        return delivery::not_permitted;
+    }
+    if (error == ENODEV || error == ENXIO || request.host_status == host_no_connection) {
+        return delivery::gone;
+    }
+    const bool answered = error == 0 && request.host_status == host_ok &&
+                          (request.driver_status & 0x0FU) != driver_timed_out;
+    return answered ? std::nullopt : std::optional(delivery::no_answer);
+}
+
+sg_io_hdr request_for(std::array<std::uint8_t, longest_cdb>& cdb, std::size_t cdb_size,
+                      std::array<std::uint8_t, longest_sense>& sense) {
+    sg_io_hdr request{};
+    request.interface_id = 'S';
+    request.cmdp = cdb.data();
+    request.cmd_len = static_cast<unsigned char>(cdb_size);
+    request.sbp = sense.data();
+    request.mx_sb_len = static_cast<unsigned char>(sense.size());
+    request.timeout = static_cast<unsigned>(std::chrono::milliseconds(sg_answer_limit).count());
+    return request;
+}
+
+void attach(std::vector<std::uint8_t>& data, int direction, sg_io_hdr& request) {
+    request.dxfer_direction = data.empty() ? SG_DXFER_NONE : direction;
+    request.dxferp = data.data();
+    request.dxfer_len = static_cast<unsigned>(data.size());
+}
+
+// What came of `wanted` bytes.
+std::size_t received(std::size_t wanted, int residue) {
+    const std::size_t missing = static_cast<std::size_t>(std::max(residue, 0));
+    return wanted - std::min(wanted, missing);
+}
+
+} // namespace
+
+exchange sg_exchange(sg_nodes& nodes, const file_handle& node, byte_view cdb, byte_view data_out,
+                     std::uint32_t allocation) {
+    std::array<std::uint8_t, longest_cdb> command{};
+    std::array<std::uint8_t, longest_sense> sense{};
+    const std::size_t length = std::min(cdb.size(), command.size());
+    std::copy_n(cdb.begin(), length, command.begin());
+    std::vector<std::uint8_t> out(data_out.begin(), data_out.end());
+    std::vector<std::uint8_t> in(out.empty() ? allocation : 0);
+    sg_io_hdr request = request_for(command, length, sense);
+    if (out.empty()) {
+        attach(in, SG_DXFER_FROM_DEV, request);
+    } else {
+        attach(out, SG_DXFER_TO_DEV, request);
+    }
+    const int error = nodes.command(node, request);
+    if (const auto trouble = trouble_of(error, request)) {
+        return {*trouble, {}};
+    }
+    scsi_reply reply;
+    reply.status = static_cast<scsi_status>(request.status);
+    reply.sense.assign(sense.begin(),
+                       sense.begin() + std::min<std::ptrdiff_t>(request.sb_len_wr, longest_sense));
+    in.resize(received(in.size(), request.resid));
+    reply.data_in = std::move(in);
+    return {delivery::answered, std::move(reply)};
+}
+
+} // namespace enclosure

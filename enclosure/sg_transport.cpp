@@ -1,0 +1,98 @@
+#include "enclosure/sg_transport.h"
+
+#include "enclosure/sg_exchange.h"
+#include "enclosure/sg_handle.h"
+#include "enclosure/vendor_commands.h"
+
+#include <cerrno>
+#include <utility>
+
+namespace enclosure {
+
+namespace {
+
+delivery delivery_of(int error) {
+    switch (error) {
+    case EACCES:
+    case EPERM:
+        return delivery::not_permitted;
+    case EBUSY: // somebody has it for himself
+        return delivery::no_answer;
+    default:
+        return delivery::gone;
+    }
+}
+
+} // namespace
+
+bridge_listing sg_transport::bridges() {
+    std::vector<std::uint32_t> handles;
+    std::map<std::uint32_t, bool> tried;
+    for (const sg_node& node : nodes_.chosen()) {
+        const std::uint32_t handle = sg_handle_of(node);
+        if (can_be_used(node)) {
+            handles.push_back(handle);
+        }
+        if (const auto known = tried_.find(handle); known != tried_.end()) {
+            tried.insert(*known);
+        }
+    }
+    tried_ = std::move(tried);
+    return {std::move(handles), true};
+}
+
+// Rights may come and go; what a device is does not change.
+bool sg_transport::can_be_used(const sg_node& node) {
+    const std::uint32_t handle = sg_handle_of(node);
+    if (opened_.contains(handle)) {
+        return true;
+    }
+    const opened_node opened = nodes_.open(node);
+    if (!opened.file) {
+        return false;
+    }
+    const auto known = tried_.find(handle);
+    return known != tried_.end()
+               ? known->second
+               : tried_.emplace(handle, knows_our_commands(opened.file)).first->second;
+}
+
+// A chip that does not answer now may do so later.
+bool sg_transport::knows_our_commands(const file_handle& node) {
+    constexpr std::uint32_t width = 4;
+    const exchange made = sg_exchange(
+        nodes_, node, encode({vendor_action::read_register, 0, false, presence_register_0, width}),
+        {}, width);
+    return made.state != delivery::answered ||
+           decode_sense(made.reply.sense) != sense::invalid_opcode;
+}
+
+delivery sg_transport::open(std::uint32_t handle) {
+    for (const sg_node& node : nodes_.chosen()) {
+        if (sg_handle_of(node) != handle) {
+            continue;
+        }
+        opened_node opened = nodes_.open(node);
+        if (!opened.file) {
+            return delivery_of(opened.error);
+        }
+        opened_[handle] = std::move(opened.file);
+        return delivery::answered;
+    }
+    return delivery::gone;
+}
+
+void sg_transport::close(std::uint32_t handle) {
+    opened_.erase(handle);
+}
+
+exchange sg_transport::execute(std::uint32_t handle, byte_view cdb, byte_view data_out,
+                               std::uint32_t allocation) {
+    const auto opened = opened_.find(handle);
+    if (opened == opened_.end()) {
+        return {delivery::gone, {}};
+    }
+    return sg_exchange(nodes_, opened->second, cdb, data_out, allocation);
+}
+
+} // namespace enclosure

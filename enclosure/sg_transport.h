@@ -1,0 +1,34 @@
+// The way to real bridges: SG_IO on their SCSI generic nodes.
+#pragma once
+
+#include "enclosure/sg_nodes.h"
+#include "enclosure/transport.h"
+
+#include <map>
+#include <set>
+
+namespace enclosure {
+
+// A node is listed once it could be opened and its device did not refuse the chip's own commands
+// as unknown to it.
+class sg_transport final : public transport {
+public:
+    // `nodes` outlives it.
+    explicit sg_transport(sg_nodes& nodes) : nodes_(nodes) {}
+
+    bridge_listing bridges() override;
+    delivery open(std::uint32_t handle) override;
+    void close(std::uint32_t handle) override;
+    exchange execute(std::uint32_t handle, byte_view cdb, byte_view data_out,
+                     std::uint32_t allocation) override;
+
+private:
+    bool can_be_used(const sg_node& node);
+    bool knows_our_commands(const file_handle& node);
+
+    sg_nodes& nodes_;
+    std::map<std::uint32_t, file_handle> opened_; // by handle
+    std::map<std::uint32_t, bool> tried_; // by handle, while the node is there: is it a bridge
+};
+
+} // namespace enclosure
