@@ -132,7 +132,6 @@ void controller::show_status() {
             announce(mainview, one_line(in_words(now, array, j.with.texts)));
         } else if (!j.has_chips()) {
             show_empty_scene(*this);
-            announce(mainview, one_line(localised("ui_no_enclosure")));
         }
     });
     if (view.blank) {

@@ -20,8 +20,12 @@
 #include "app/system_version.h"
 #include "app/treeview.h"
 #include "app/ui_bridge.h"
-#include "device/emulated_registry.h"
+#include "device/emulated_bus.h"
 #include "device/linked_library.h"
+#include "device/source_registry.h"
+#ifdef KESTREL_REACHES_REAL_BRIDGES
+#include "device/udev_source.h"
+#endif
 #include "model/exit_gate.h"
 #include "model/krtool.h"
 #include "model/system_services.h"
@@ -29,8 +33,17 @@
 
 namespace {
 
+source_registry::sources sources_of_bridges() {
+    source_registry::sources all;
+    all.push_back(std::make_unique<emulated_bus>());
+#ifdef KESTREL_REACHES_REAL_BRIDGES
+    all.push_back(std::make_unique<udev_source>());
+#endif
+    return all;
+}
+
 linked_library library;
-emulated_registry registry;
+source_registry registry(sources_of_bridges());
 steady_pauses sleeper;
 system_clock wall;
 detached_threads threads;

@@ -42,6 +42,8 @@ const char* key_of(verdict is) {
     switch (is) {
     case verdict::no_enclosure:
         return "ui_verdict_none";
+    case verdict::closed:
+        return "ui_verdict_closed";
     case verdict::scanning:
         return "ui_verdict_scanning";
     case verdict::no_disks:
@@ -193,6 +195,7 @@ std::string advice_on(const krchip& chip, verdict is, bool decimal_units,
         }
         break;
     case verdict::no_enclosure:
+    case verdict::closed:
     case verdict::scanning:
         break;
     }
@@ -255,6 +258,10 @@ outlook outlook_of(const krchip& chip, bool decimal_units, const text_lookup& te
 
 outlook outlook_without_enclosure(const text_lookup& texts) {
     return without_chip(verdict::no_enclosure, "ui_advice_none", "ui_reason_no_enclosure", texts);
+}
+
+outlook outlook_on_closed_enclosure(const text_lookup& texts) {
+    return without_chip(verdict::closed, nullptr, "ui_reason_closed", texts);
 }
 
 outlook outlook_while_scanning(const text_lookup& texts) {

@@ -13,6 +13,7 @@ class krchip;
 
 enum class verdict {
     no_enclosure,
+    closed, // an enclosure is connected, and cannot be used
     scanning,
     no_disks,
     not_configured,
@@ -46,6 +47,7 @@ outlook outlook_of(const krchip& chip, bool decimal_units, const text_lookup& te
 
 // While there is no chip to speak of. Any thread.
 outlook outlook_without_enclosure(const text_lookup& texts);
+outlook outlook_on_closed_enclosure(const text_lookup& texts);
 outlook outlook_while_scanning(const text_lookup& texts);
 
 // For those who hear the window: the array by name, unless it is empty, the verdict and the advice.

@@ -6,6 +6,7 @@
 
 #include "app/announcement.h"
 #include "app/button_reasons.h"
+#include "app/closed_bridges.h"
 #include "app/controller.h"
 #include "app/controller_box.h"
 #include "app/display_text.h"
@@ -25,6 +26,7 @@
 #include "app/tab_view.h"
 #include "app/text_field.h"
 #include "app/window_extras.h"
+#include "device/registry.h"
 #include "model/krtool.h"
 
 namespace {
@@ -32,6 +34,7 @@ namespace {
 constexpr QRect volume_picture_place(148, 120, 216, 120);
 constexpr QRect volume_capacity_place(388, 204, 368, 32);
 constexpr int dim_bay_distance = 112;
+constexpr int empty_heading_top = 118;
 
 void show_note(const status_extras& extras, const char* heading, const QString& text,
                int heading_top) {
@@ -74,6 +77,19 @@ void hide_status_extras(const status_extras& extras) {
     }
 }
 
+// An enclosure is connected, and not in the list.
+void show_closed(controller& window, const closed_note& note) {
+    constexpr int text_height = 92;
+    const status_extras& extras = window.extras->status;
+    const QString heading = localised(note.heading);
+    const QString text = one_line(note.text);
+    window.controllerselectbox->set_placeholder(heading);
+    show_note(extras, note.heading, text, empty_heading_top);
+    extras.note_text->resize(extras.note_text->width(), text_height);
+    show_outlook(window, outlook_on_closed_enclosure(j.with.texts));
+    announce(window.mainview, heading + QStringLiteral(". ") + text);
+}
+
 } // namespace
 
 void clear_scene(controller& window) {
@@ -111,16 +127,20 @@ void show_restarting_scene(controller& window) {
 }
 
 void show_empty_scene(controller& window) {
-    constexpr int heading_top = 118;
-    window.controllerselectbox->set_placeholder(localised("ui_no_enclosure"));
     const status_extras& extras = window.extras->status;
-    show_note(extras, "ui_no_enclosure", QString(), heading_top);
     show_picture(extras.enclosure_picture, QStringLiteral("enclosure"), QSize(216, 120));
     extras.enclosure_picture->show();
+    if (const auto note = note_on(j.with.registry.reached(), j.with.texts)) {
+        show_closed(window, *note);
+        return;
+    }
+    window.controllerselectbox->set_placeholder(localised("ui_no_enclosure"));
+    show_note(extras, "ui_no_enclosure", QString(), empty_heading_top);
     for (numbered_step* step : extras.steps) {
         step->show();
     }
     show_outlook(window, outlook_without_enclosure(j.with.texts));
+    announce(window.mainview, localised("ui_no_enclosure"));
 }
 
 void show_chip_scene(controller& window, const view_state& view, const outlook& now) {

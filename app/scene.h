@@ -23,7 +23,7 @@ void show_scanning_scene(controller& window);
 // The array of the chip is being changed, and has been changed: the enclosure restarts.
 void show_changing_scene(controller& window);
 void show_restarting_scene(controller& window);
-// There is no bridge.
+// No bridge is listed. Announces why.
 void show_empty_scene(controller& window);
 // A chip is shown: its disks, or one volume, and how it stands.
 void show_chip_scene(controller& window, const view_state& view, const outlook& now);

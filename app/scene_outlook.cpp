@@ -27,6 +27,7 @@ const char* state_of(verdict is) {
         return "ok";
     case verdict::degraded:
     case verdict::copies_differ:
+    case verdict::closed:
         return "warn";
     case verdict::broken:
         return "err";

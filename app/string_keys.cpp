@@ -51,7 +51,7 @@ constexpr std::array<std::string_view, 43> designed = {
     "device",
 };
 
-constexpr std::array<std::string_view, 112> of_the_window = {
+constexpr std::array<std::string_view, 118> of_the_window = {
     "ui_controllers",
     "ui_system_information",
     "ui_devices",
@@ -93,6 +93,7 @@ constexpr std::array<std::string_view, 112> of_the_window = {
     "ui_restart_named",
     "ui_plan_copy_unfinished",
     "ui_verdict_none",
+    "ui_verdict_closed",
     "ui_verdict_scanning",
     "ui_verdict_no_disks",
     "ui_verdict_healthy",
@@ -106,6 +107,10 @@ constexpr std::array<std::string_view, 112> of_the_window = {
     "ui_step_connect",
     "ui_step_switch_on",
     "ui_step_wait",
+    "ui_closed_heading",
+    "ui_closed_text",
+    "ui_silent_heading",
+    "ui_silent_text",
     "ui_advice_none",
     "ui_advice_no_disks",
     "ui_advice_one_disk",
@@ -122,6 +127,7 @@ constexpr std::array<std::string_view, 112> of_the_window = {
     "ui_advice_halves",
     "ui_advice_rebuilding",
     "ui_reason_no_enclosure",
+    "ui_reason_closed",
     "ui_reason_scanning",
     "ui_reason_bay_empty",
     "ui_reason_no_disks",

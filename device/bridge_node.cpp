@@ -115,5 +115,6 @@ std::optional<bridge_node> bridge_node_of(udev_device* node, const arrival_numbe
     bridge_node found{folder_of(node), folder_of(bus_device), *identity};
     found.identity.handle = sg_handle(minor(number), arrival(found.path));
     found.identity.name = name_of(folder_of(scsi_device));
+    found.identity.node = view(udev_device_get_devnode(node));
     return found;
 }

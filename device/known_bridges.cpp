@@ -40,6 +40,17 @@ registry_entry known_bridges::entry_of(std::uint32_t device) const {
     return latest == bridges_.rend() ? 0 : latest->first << level_bits | bridge_level;
 }
 
+std::vector<reached_bridge> known_bridges::with_nodes() const {
+    const mutex_scope guard(mutex_);
+    std::vector<reached_bridge> found;
+    for (const auto& [number, bridge] : bridges_) {
+        if (bridge.announced && !bridge.node.empty()) {
+            found.push_back({bridge.name, bridge.node, false});
+        }
+    }
+    return found;
+}
+
 std::uint32_t known_bridges::handle_of(number_type number) const {
     const mutex_scope guard(mutex_);
     const auto found = bridges_.find(number);

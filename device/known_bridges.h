@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // A bridge as it described itself on arrival.
 struct bridge_identity {
@@ -20,6 +21,7 @@ struct bridge_identity {
     std::string serial;
     std::uint64_t guid = 0;
     std::string name;
+    std::string node;      // of the system, through which it is reached; may be empty
     bool announced = true; // false: another way to a bridge that has been announced already
 };
 
@@ -36,6 +38,9 @@ public:
     // The latest bridge with the handle; 0 when there is none.
     registry_entry entry_of(std::uint32_t device) const;
     bool knows(std::uint32_t device) const { return entry_of(device) != 0; }
+
+    // Those that were announced and are reached through a node. Name and node only.
+    std::vector<reached_bridge> with_nodes() const;
 
     // The number's handle; 0 when it is unknown.
     std::uint32_t handle_of(number_type number) const;

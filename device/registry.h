@@ -5,10 +5,20 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Names an entry of the registry; 0 is "no entry", and every question about it has the empty
 // answer. An entry stays valid until its bridge has left.
 using registry_entry = std::uint64_t;
+
+// A bridge that is there, told or not told by the access library.
+struct reached_bridge {
+    std::string name;       // may be empty
+    std::string node;       // of the system, "/dev/sg3"
+    bool permitted = false; // to this user
+
+    bool operator==(const reached_bridge&) const = default;
+};
 
 // Any thread, several at once. Nothing fails: what is missing is 0 or empty. Nothing but entry_of
 // blocks for longer than a look at local data.
@@ -31,4 +41,7 @@ public:
 
     // "USB Serial Number".
     virtual std::u16string text(registry_entry entry, std::string_view property) = 0;
+
+    // The bridges that are reached through nodes of the system, in the order of their arrival.
+    virtual std::vector<reached_bridge> reached() = 0;
 };

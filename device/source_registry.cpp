@@ -257,6 +257,14 @@ std::u16string source_registry::text(registry_entry entry, std::string_view prop
     return inner_->known.text(entry, property);
 }
 
+std::vector<reached_bridge> source_registry::reached() {
+    std::vector<reached_bridge> bridges = inner_->known.with_nodes();
+    for (reached_bridge& bridge : bridges) {
+        bridge.permitted = ::access(bridge.node.c_str(), R_OK | W_OK) == 0;
+    }
+    return bridges;
+}
+
 bool source_registry::match(std::string_view registry_class) {
     if (registry_class != bridge_class) {
         print_err("no device is of class " + std::string(registry_class) + "\n");

@@ -27,6 +27,7 @@ public:
     std::string name(registry_entry entry) override;
     std::int64_t number(registry_entry entry, std::string_view property) override;
     std::u16string text(registry_entry entry, std::string_view property) override;
+    std::vector<reached_bridge> reached() override;
 
     // A source that has nothing to listen to is left out; false when that is every one.
     bool match(std::string_view registry_class) override;

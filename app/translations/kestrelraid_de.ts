@@ -395,6 +395,30 @@
         <source></source>
         <translation>Immer noch nichts? Prüfen Sie die Stromversorgung und versuchen Sie es dann mit einem anderen Kabel oder Anschluss.</translation>
     </message>
+    <message id="ui_verdict_closed">
+        <source></source>
+        <translation>Kein Zugriff</translation>
+    </message>
+    <message id="ui_closed_heading">
+        <source></source>
+        <translation>Kein Zugriff auf das Gehäuse</translation>
+    </message>
+    <message id="ui_closed_text">
+        <source></source>
+        <translation>%1: Sie dürfen es nicht verwenden. Melden Sie sich direkt an diesem Computer an oder bitten Sie den Administrator um Zugriff. Klicken Sie dann auf „%2“.</translation>
+    </message>
+    <message id="ui_silent_heading">
+        <source></source>
+        <translation>Das Gehäuse antwortet nicht</translation>
+    </message>
+    <message id="ui_silent_text">
+        <source></source>
+        <translation>%1: Es antwortet nicht als RAID-Gehäuse, oder ein anderes Programm verwendet es. Schalten Sie es aus und wieder ein und klicken Sie dann auf „%2“.</translation>
+    </message>
+    <message id="ui_reason_closed">
+        <source></source>
+        <translation>Zurzeit kann kein Gehäuse verwendet werden.</translation>
+    </message>
     <message id="ui_advice_no_disks">
         <source></source>
         <translation>Beide Schächte sind leer. Setzen Sie eine Festplatte ein und klicken Sie dann auf „%1“.</translation>

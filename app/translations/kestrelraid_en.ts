@@ -395,6 +395,30 @@
         <source></source>
         <translation>Still nothing? Check its power supply, then try another cable or port.</translation>
     </message>
+    <message id="ui_verdict_closed">
+        <source></source>
+        <translation>Not accessible</translation>
+    </message>
+    <message id="ui_closed_heading">
+        <source></source>
+        <translation>No access to the enclosure</translation>
+    </message>
+    <message id="ui_closed_text">
+        <source></source>
+        <translation>%1: you have no permission to use it. Log in at this computer itself, or ask its administrator for access. Then press “%2”.</translation>
+    </message>
+    <message id="ui_silent_heading">
+        <source></source>
+        <translation>The enclosure does not answer</translation>
+    </message>
+    <message id="ui_silent_text">
+        <source></source>
+        <translation>%1: it does not answer as a RAID enclosure, or another program is using it. Switch it off and on again, then press “%2”.</translation>
+    </message>
+    <message id="ui_reason_closed">
+        <source></source>
+        <translation>No enclosure can be used at the moment.</translation>
+    </message>
     <message id="ui_advice_no_disks">
         <source></source>
         <translation>Both bays are empty. Insert a disk, then press “%1”.</translation>

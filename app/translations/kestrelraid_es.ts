@@ -395,6 +395,30 @@
         <source></source>
         <translation>¿Sigue sin aparecer? Compruebe la alimentación de la caja y pruebe con otro cable u otro puerto.</translation>
     </message>
+    <message id="ui_verdict_closed">
+        <source></source>
+        <translation>Sin acceso</translation>
+    </message>
+    <message id="ui_closed_heading">
+        <source></source>
+        <translation>Sin acceso a la caja</translation>
+    </message>
+    <message id="ui_closed_text">
+        <source></source>
+        <translation>%1: no tiene permiso para usarla. Inicie sesión en este mismo equipo o pida acceso a su administrador. Después pulse «%2».</translation>
+    </message>
+    <message id="ui_silent_heading">
+        <source></source>
+        <translation>La caja no responde</translation>
+    </message>
+    <message id="ui_silent_text">
+        <source></source>
+        <translation>%1 está conectada, pero no responde como caja RAID, o la usa otro programa. Apáguela, vuelva a encenderla y pulse «%2».</translation>
+    </message>
+    <message id="ui_reason_closed">
+        <source></source>
+        <translation>Por ahora no se puede usar ninguna caja.</translation>
+    </message>
     <message id="ui_advice_no_disks">
         <source></source>
         <translation>Las dos bahías están vacías. Inserte un disco y después pulse «%1».</translation>

@@ -395,6 +395,30 @@
         <source></source>
         <translation>Toujours rien ? Vérifiez l’alimentation du boîtier, puis essayez un autre câble ou un autre port.</translation>
     </message>
+    <message id="ui_verdict_closed">
+        <source></source>
+        <translation>Inaccessible</translation>
+    </message>
+    <message id="ui_closed_heading">
+        <source></source>
+        <translation>Pas d’accès au boîtier</translation>
+    </message>
+    <message id="ui_closed_text">
+        <source></source>
+        <translation>%1 : vous n’êtes pas autorisé à l’utiliser. Ouvrez une session sur cet ordinateur même ou demandez l’accès à son administrateur, puis cliquez sur « %2 ».</translation>
+    </message>
+    <message id="ui_silent_heading">
+        <source></source>
+        <translation>Le boîtier ne répond pas</translation>
+    </message>
+    <message id="ui_silent_text">
+        <source></source>
+        <translation>%1 est connecté, mais ne répond pas comme un boîtier RAID, ou un autre programme l’utilise. Éteignez-le, rallumez-le, puis cliquez sur « %2 ».</translation>
+    </message>
+    <message id="ui_reason_closed">
+        <source></source>
+        <translation>Aucun boîtier n’est utilisable pour le moment.</translation>
+    </message>
     <message id="ui_advice_no_disks">
         <source></source>
         <translation>Les deux baies sont vides. Insérez un disque, puis cliquez sur « %1 ».</translation>

@@ -395,6 +395,30 @@
         <source></source>
         <translation>Ancora niente? Controllare l’alimentazione del box, poi provare un altro cavo o un’altra porta.</translation>
     </message>
+    <message id="ui_verdict_closed">
+        <source></source>
+        <translation>Non accessibile</translation>
+    </message>
+    <message id="ui_closed_heading">
+        <source></source>
+        <translation>Accesso al box negato</translation>
+    </message>
+    <message id="ui_closed_text">
+        <source></source>
+        <translation>%1: non si dispone del permesso per usarlo. Accedere direttamente a questo computer o chiedere l’accesso all’amministratore, poi premere «%2».</translation>
+    </message>
+    <message id="ui_silent_heading">
+        <source></source>
+        <translation>Il box non risponde</translation>
+    </message>
+    <message id="ui_silent_text">
+        <source></source>
+        <translation>%1 è collegato, ma non risponde come box RAID, oppure lo usa un altro programma. Spegnerlo e riaccenderlo, poi premere «%2».</translation>
+    </message>
+    <message id="ui_reason_closed">
+        <source></source>
+        <translation>Al momento nessun box è utilizzabile.</translation>
+    </message>
     <message id="ui_advice_no_disks">
         <source></source>
         <translation>Entrambi i vani sono vuoti. Inserire un disco, poi premere «%1».</translation>

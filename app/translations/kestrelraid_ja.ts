@@ -395,6 +395,30 @@
         <source></source>
         <translation>それでも表示されない場合は、ケースの電源を確認し、別のケーブルやポートをお試しください。</translation>
     </message>
+    <message id="ui_verdict_closed">
+        <source></source>
+        <translation>アクセス不可</translation>
+    </message>
+    <message id="ui_closed_heading">
+        <source></source>
+        <translation>ケースにアクセスできません</translation>
+    </message>
+    <message id="ui_closed_text">
+        <source></source>
+        <translation>%1：使用する権限がありません。このコンピューターに直接ログインするか、管理者にアクセス権を依頼してから、「%2」を押してください。</translation>
+    </message>
+    <message id="ui_silent_heading">
+        <source></source>
+        <translation>ケースが応答しません</translation>
+    </message>
+    <message id="ui_silent_text">
+        <source></source>
+        <translation>%1は接続されていますが、RAIDケースとして応答しないか、別のプログラムが使用中です。電源を入れ直してから、「%2」を押してください。</translation>
+    </message>
+    <message id="ui_reason_closed">
+        <source></source>
+        <translation>現在使用できるケースがありません。</translation>
+    </message>
     <message id="ui_advice_no_disks">
         <source></source>
         <translation>どちらのベイも空です。ディスクを入れて、「%1」を押してください。</translation>

@@ -395,6 +395,30 @@
         <source></source>
         <translation>그래도 표시되지 않으면 전원이 들어오는지 확인한 다음 다른 케이블이나 포트를 사용해 보십시오.</translation>
     </message>
+    <message id="ui_verdict_closed">
+        <source></source>
+        <translation>접근 불가</translation>
+    </message>
+    <message id="ui_closed_heading">
+        <source></source>
+        <translation>인클로저에 접근할 수 없음</translation>
+    </message>
+    <message id="ui_closed_text">
+        <source></source>
+        <translation>%1: 사용할 권한이 없습니다. 이 컴퓨터에서 직접 로그인하거나 관리자에게 권한을 요청한 다음 ‘%2’ 버튼을 누르십시오.</translation>
+    </message>
+    <message id="ui_silent_heading">
+        <source></source>
+        <translation>인클로저가 응답하지 않음</translation>
+    </message>
+    <message id="ui_silent_text">
+        <source></source>
+        <translation>%1이(가) 연결되어 있지만 RAID 인클로저로 응답하지 않거나 다른 프로그램이 사용 중입니다. 전원을 껐다 켠 다음 ‘%2’ 버튼을 누르십시오.</translation>
+    </message>
+    <message id="ui_reason_closed">
+        <source></source>
+        <translation>지금 사용할 수 있는 인클로저가 없습니다.</translation>
+    </message>
     <message id="ui_advice_no_disks">
         <source></source>
         <translation>두 베이가 모두 비어 있습니다. 디스크를 넣은 다음 ‘%1’ 버튼을 누르십시오.</translation>

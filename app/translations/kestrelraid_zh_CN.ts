@@ -395,6 +395,30 @@
         <source></source>
         <translation>仍未出现？请先检查电源，再换一根数据线或换一个接口试试。</translation>
     </message>
+    <message id="ui_verdict_closed">
+        <source></source>
+        <translation>无法访问</translation>
+    </message>
+    <message id="ui_closed_heading">
+        <source></source>
+        <translation>无法访问硬盘盒</translation>
+    </message>
+    <message id="ui_closed_text">
+        <source></source>
+        <translation>%1：您没有使用权限。请直接在这台电脑上登录，或向管理员申请权限，然后点击“%2”。</translation>
+    </message>
+    <message id="ui_silent_heading">
+        <source></source>
+        <translation>硬盘盒没有响应</translation>
+    </message>
+    <message id="ui_silent_text">
+        <source></source>
+        <translation>%1 已连接，但没有作为 RAID 硬盘盒响应，或正被其他程序使用。请关闭电源再打开，然后点击“%2”。</translation>
+    </message>
+    <message id="ui_reason_closed">
+        <source></source>
+        <translation>目前没有可用的硬盘盒。</translation>
+    </message>
     <message id="ui_advice_no_disks">
         <source></source>
         <translation>两个盘位都是空的。请装入磁盘，然后点击“%1”。</translation>

@@ -395,6 +395,30 @@
         <source></source>
         <translation>還是沒有出現嗎？請先檢查電源，再換一條傳輸線或換一個連接埠試試看。</translation>
     </message>
+    <message id="ui_verdict_closed">
+        <source></source>
+        <translation>無法存取</translation>
+    </message>
+    <message id="ui_closed_heading">
+        <source></source>
+        <translation>無法存取外接盒</translation>
+    </message>
+    <message id="ui_closed_text">
+        <source></source>
+        <translation>%1：您沒有使用權限。請直接在這部電腦上登入，或向管理員要求權限，然後按「%2」。</translation>
+    </message>
+    <message id="ui_silent_heading">
+        <source></source>
+        <translation>外接盒沒有回應</translation>
+    </message>
+    <message id="ui_silent_text">
+        <source></source>
+        <translation>%1 已連接，但沒有以 RAID 外接盒回應，或正由其他程式使用。請關閉電源再開啟，然後按「%2」。</translation>
+    </message>
+    <message id="ui_reason_closed">
+        <source></source>
+        <translation>目前沒有可用的外接盒。</translation>
+    </message>
     <message id="ui_advice_no_disks">
         <source></source>
         <translation>兩個磁碟槽都是空的。請裝入磁碟，再按「%1」。</translation>

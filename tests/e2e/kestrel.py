@@ -5,6 +5,7 @@ import os
 import re
 import subprocess
 import sys
+import tempfile
 import time
 from xml.etree import ElementTree
 
@@ -87,13 +88,25 @@ def description(node):
     return re.sub(r" ?\[\w+\]$", "", node.get_description())
 
 
+_no_devices = tempfile.TemporaryDirectory()
+os.mkdir(os.path.join(_no_devices.name, "sys"))
+
+
+def without_devices(environment):
+    """On a machine that has none: for the program that looks for real ones."""
+    return dict(environment, LD_PRELOAD="libumockdev-preload.so.0", UMOCKDEV_DIR=_no_devices.name)
+
+
 class Program:
     """A running kestrelraid."""
 
     def __init__(self, language="C.UTF-8", scale=None, name="kestrelraid-emulated"):
         environment = dict(os.environ, LANG=language, LC_ALL=language, LANGUAGE=language.split("_")[0])
         # Whatever is installed, no test reaches for another library than the bundled one.
-        environment["LD_LIBRARY_PATH"] = f"{BUILD}/lib"
+        if name == "kestrelraid-emulated":
+            environment["LD_LIBRARY_PATH"] = f"{BUILD}/lib/emulated"
+        else:
+            environment = without_devices(dict(environment, LD_LIBRARY_PATH=f"{BUILD}/lib"))
         self.scale = scale or 1
         if scale:
             environment["QT_SCALE_FACTOR"] = str(scale)

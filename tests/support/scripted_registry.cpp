@@ -61,6 +61,7 @@ void scripted_registry::remove(std::uint32_t device) {
 void scripted_registry::reset() {
     const mutex_scope lock(mutex_);
     bridges_.clear();
+    reached_.clear();
 }
 
 std::optional<registered_bridge> scripted_registry::bridge_of(registry_entry entry) const {
@@ -114,4 +115,14 @@ std::u16string scripted_registry::text(registry_entry entry, std::string_view pr
     }
     const auto found = bridge->texts.find(property);
     return found == bridge->texts.end() ? std::u16string() : found->second;
+}
+
+std::vector<reached_bridge> scripted_registry::reached() {
+    const mutex_scope lock(mutex_);
+    return reached_;
+}
+
+void scripted_registry::set_reached(std::vector<reached_bridge> bridges) {
+    const mutex_scope lock(mutex_);
+    reached_ = std::move(bridges);
 }

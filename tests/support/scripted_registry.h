@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "device/registry.h"
 #include "tests/support/call_log.h"
@@ -38,6 +39,9 @@ public:
     std::string name(registry_entry entry) override;
     std::int64_t number(registry_entry entry, std::string_view property) override;
     std::u16string text(registry_entry entry, std::string_view property) override;
+    std::vector<reached_bridge> reached() override;
+
+    void set_reached(std::vector<reached_bridge> bridges);
 
 private:
     // The bridge that the entry belongs to.
@@ -46,4 +50,5 @@ private:
     call_log& log_;
     mutable plain_mutex mutex_;
     std::map<std::uint32_t, registered_bridge> bridges_ GUARDED_BY(mutex_);
+    std::vector<reached_bridge> reached_ GUARDED_BY(mutex_);
 };

@@ -132,6 +132,7 @@ void mock_bus::add_scsi_device(const std::string& device, const mock_bridge& bri
 void mock_bus::add_node(const std::string& device, const mock_bridge& bridge) {
     device_text node(node_path(device, bridge), "scsi_generic");
     node.property("MAJOR", "21").property("MINOR", bridge.sg);
+    node.property("DEVNAME", bridge.file.empty() ? "/dev/sg" + bridge.sg : bridge.file);
     if (bridge.chosen) {
         node.property("KRRAID_BRIDGE", "1"); // udev keeps it in its database, for which this stands
     }

@@ -14,7 +14,8 @@ struct mock_bridge {
     std::string type = "0";
     std::string vendor = "KESTREL ";
     std::string model = "Duo             ";
-    bool chosen = true; // by the udev rule
+    bool chosen = true;    // by the udev rule
+    std::string file = {}; // of the node, if it is not that of the number
 
     std::string scsi_device() const { return host + ":0:0:" + lun; }
 };

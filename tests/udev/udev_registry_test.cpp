@@ -114,6 +114,31 @@ TEST_F(UdevRegistry, EveryUnitOfADeviceHasAnEntryAndTheFirstAloneArrives) {
     EXPECT_EQ(registry_.text(other, "USB Serial Number"), u"KR-0042");
 }
 
+TEST_F(UdevRegistry, ABridgeIsReachedThroughItsNodeIfTheUserMay) {
+    bridge_.sg = "31999"; // no machine has so many
+    add(usb_, bridge_);
+    mock_usb_device open_device;
+    open_device.ports = "2";
+    mock_bridge open_bridge;
+    open_bridge.host = "7";
+    open_bridge.sg = "32000";
+    open_bridge.file = "/dev/null";
+    add(open_device, open_bridge);
+    start();
+    EXPECT_THAT(registry_.reached(),
+                testing::UnorderedElementsAre(reached_bridge{"KESTREL Duo", "/dev/sg31999", false},
+                                              reached_bridge{"KESTREL Duo", "/dev/null", true}));
+}
+
+TEST_F(UdevRegistry, ADeviceOfSeveralUnitsIsReachedOnce) {
+    add(usb_, bridge_);
+    bridge_.lun = "1";
+    bridge_.sg = "1";
+    add_unit(usb_.path(), bridge_);
+    start();
+    EXPECT_THAT(registry_.reached(), SizeIs(1));
+}
+
 TEST_F(UdevRegistry, ABridgeOfWhichItHasNotHeardYetIsKnownWhenItIsAskedFor) {
     start();
     add(usb_, bridge_);

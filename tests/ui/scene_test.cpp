@@ -58,6 +58,8 @@ protected:
 TEST_F(scene, VerdictStandsInEveryState) {
     const std::map<std::string, std::string> words = {
         {"empty", "No enclosure"},
+        {"closed", "Not accessible"},
+        {"silent", "Not accessible"},
         {"scanning", "Scanning"},
         {"no-disks", "No disks"},
         {"one-disk", "Not configured"},

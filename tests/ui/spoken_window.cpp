@@ -128,8 +128,9 @@ void spoken_window::TearDown() {
 }
 
 std::vector<std::string> spoken_window::state_names() {
-    std::vector<std::string> names = {"empty",           "scanning", "diverged-hover",
-                                      "rebuild-stalled", "info",     "kind-not-chosen"};
+    std::vector<std::string> names = {"empty",    "closed",         "silent",
+                                      "scanning", "diverged-hover", "rebuild-stalled",
+                                      "info",     "kind-not-chosen"};
     for (const auto& [name, state] : chip_states()) {
         names.push_back(name);
     }
@@ -138,10 +139,14 @@ std::vector<std::string> spoken_window::state_names() {
 
 void spoken_window::show_state(const std::string& name) {
     window->switchguimain();
+    registry.set_reached({});
     if (name == "empty") {
-        forget_all();
-        window->cleargui();
-        window->update_raid_information();
+        show_without_chips();
+    } else if (name == "closed" || name == "silent") {
+        registry.set_reached({{"Kestrel Duo", "/dev/sg3", name == "silent"},
+                              {"Kestrel Duo Pro", "/dev/sg12", name == "silent"},
+                              {"Another", "/dev/sg13", name == "silent"}});
+        show_without_chips();
     } else if (name == "scanning") {
         window->cleargui();
         window->startworking();
@@ -165,6 +170,12 @@ void spoken_window::show_state(const std::string& name) {
             state.prepare(chip);
         });
     }
+}
+
+void spoken_window::show_without_chips() {
+    forget_all();
+    window->cleargui();
+    window->update_raid_information();
 }
 
 void spoken_window::settle() {

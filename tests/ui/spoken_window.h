@@ -37,6 +37,7 @@ private:
     void show_chip_state(const std::function<void(krchip&)>& prepare);
     void show_rebuild(std::uint64_t moved);
     void show_information();
+    void show_without_chips();
 
     QTranslator translator_;
     bool open_ = false;
