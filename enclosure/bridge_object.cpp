@@ -63,6 +63,9 @@ void bridge_object::execute(answer&& result, const std::vector<std::uint8_t>& cd
     if (!reply) {
         throw sdbus::Error(bus::error_name, "the bridge has left the bus");
     }
+    if (reply->unanswered) {
+        return; // the caller waits as long as it likes; nothing is kept for it here
+    }
     const auto status = static_cast<std::uint8_t>(reply->status);
     if (reply->delay == moment{0}) {
         result.returnResults(status, reply->sense, reply->data_in);

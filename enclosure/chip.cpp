@@ -1,46 +1,14 @@
 #include "enclosure/chip.h"
 
+#include "enclosure/mode_pages.h"
 #include "enclosure/numbers.h"
+#include "enclosure/opcodes.h"
 
 #include <algorithm>
 
 namespace enclosure {
 
 namespace {
-
-enum opcode : std::uint8_t {
-    op_test_unit_ready = 0x00,
-    op_request_sense = 0x03,
-    op_inquiry = 0x12,
-    op_read_capacity_10 = 0x25,
-    op_synchronize_cache_10 = 0x35,
-    op_service_action_in_16 = 0x9E,
-};
-
-// The length that the opcode's group prescribes; 0 for groups without one.
-std::size_t cdb_length(std::uint8_t code) {
-    switch (code >> 5) {
-    case 0:
-        return 6;
-    case 1:
-    case 2:
-        return 10;
-    case 4:
-        return 16;
-    case 5:
-        return 12;
-    case 6: // vendor
-        return longest_cdb;
-    default:
-        return 0;
-    }
-}
-
-bool is_known(std::uint8_t code) {
-    return code == op_test_unit_ready || code == op_request_sense || code == op_inquiry ||
-           code == op_read_capacity_10 || code == op_synchronize_cache_10 ||
-           code == op_service_action_in_16 || code == vendor_opcode;
-}
 
 void put_text(std::vector<std::uint8_t>& to, std::size_t at, std::size_t length,
               std::string_view text) {
@@ -54,6 +22,25 @@ void cut(std::vector<std::uint8_t>& data, std::uint64_t length) {
     data.resize(static_cast<std::size_t>(std::min<std::uint64_t>(data.size(), length)));
 }
 
+// The volume is the only unit, and no well-known one is there.
+scsi_reply report_luns(byte_view cdb) {
+    constexpr std::uint64_t smallest_room = 16;
+    constexpr std::uint8_t well_known_units = 0x01;
+    constexpr std::uint8_t all_units = 0x02;
+    const std::uint64_t room = get_be(&cdb[6], 4);
+    if (cdb[2] > all_units || room < smallest_room) {
+        return refused(sense::invalid_field);
+    }
+    constexpr std::uint8_t entry = 8; // bytes
+    std::vector<std::uint8_t> data(8);
+    if (cdb[2] != well_known_units) {
+        data[3] = entry;
+        data.resize(data.size() + entry); // unit 0
+    }
+    cut(data, room);
+    return answered(std::move(data));
+}
+
 } // namespace
 
 std::string inquiry_product(const std::string& product) {
@@ -61,7 +48,11 @@ std::string inquiry_product(const std::string& product) {
 }
 
 chip::chip(bays& disks, fault_stack& path, std::string product)
-    : disks_(disks), path_(path), product_(std::move(product)), copy_(disks, path) {}
+    : disks_(disks),
+      path_(path),
+      product_(std::move(product)),
+      copy_(disks, path),
+      volume_io_(path, copy_) {}
 
 void chip::power_on(moment now, const std::optional<kept_copy>& before) {
     restart_ = false;
@@ -133,6 +124,19 @@ void chip::look_at_disks() {
         views_[static_cast<std::size_t>(port)] = look_at(port);
     }
     volume_ = decide_volume(views_);
+    if (left_with_unfinished_target()) {
+        volume_.sectors = 0; // behind what was copied it has the rest of its old content
+    }
+    volume_io_.present(views_, volume_);
+}
+
+bool chip::left_with_unfinished_target() const {
+    if (volume_.state != volume_state::degraded || !copy_.unfinished()) {
+        return false;
+    }
+    const auto target = static_cast<std::size_t>(1 - copy_.progress()->source);
+    const copy_pair::member& left = pair_of(views_).members[target];
+    return views_[target].present && left == copied_pair_.members[target];
 }
 
 port_view chip::look_at(int port) {
@@ -150,9 +154,11 @@ port_view chip::look_at(int port) {
 }
 
 scsi_reply chip::execute(byte_view cdb, byte_view data_out, std::uint32_t allocation) {
-    path_.take_delay(); // what the chip's own requests met is nobody's answer
+    path_.take_hold_up(); // what the chip's own requests met is nobody's answer
     scsi_reply reply = dispatch(cdb, data_out);
-    reply.delay = path_.take_delay();
+    const hold_up met = path_.take_hold_up();
+    reply.delay = met.delay;
+    reply.unanswered = met.for_ever;
     cut(reply.data_in, allocation);
     return reply;
 }
@@ -163,26 +169,50 @@ scsi_reply chip::dispatch(byte_view cdb, byte_view data_out) {
         reply = refused(sense::invalid_opcode);
     } else if (cdb.size() < cdb_length(cdb[0]) || cdb.size() > longest_cdb) {
         reply = refused(sense::invalid_field);
-    } else if (cdb[0] == op_request_sense) {
-        reply = request_sense(cdb);
-    } else if (cdb[0] == op_inquiry) {
-        reply = inquiry(cdb);
-    } else if (cdb[0] == op_test_unit_ready) {
-        reply = test_ready();
-    } else if (cdb[0] == op_read_capacity_10) {
-        reply = read_capacity_10();
-    } else if (cdb[0] == op_service_action_in_16) {
-        reply = read_capacity_16(cdb);
-    } else if (cdb[0] == op_synchronize_cache_10) {
-        reply = synchronize();
     } else {
-        reply = vendor(cdb, data_out);
+        reply = carry_out(cdb, data_out);
     }
     last_sense_ = sense::none;
     if (reply.status != scsi_status::good) {
         last_sense_ = {reply.sense[2], reply.sense[12], reply.sense[13]};
     }
     return reply;
+}
+
+scsi_reply chip::carry_out(byte_view cdb, byte_view data_out) {
+    switch (cdb[0]) {
+    case op_test_unit_ready:
+        return test_ready();
+    case op_request_sense:
+        return request_sense(cdb);
+    case op_inquiry:
+        return inquiry(cdb);
+    case op_mode_sense_6:
+    case op_mode_sense_10:
+        return mode_sense(cdb);
+    case op_start_stop_unit:
+    case op_prevent_removal:
+        return answered(); // neither has any effect
+    case op_read_capacity_10:
+        return read_capacity_10();
+    case op_read_10:
+    case op_read_16:
+        return read_blocks(cdb);
+    case op_write_10:
+    case op_write_16:
+        return write_blocks(cdb, data_out);
+    case op_verify_10:
+        return verify_blocks(cdb);
+    case op_synchronize_cache_10:
+    case op_synchronize_cache_16:
+        return synchronize();
+    case op_service_action_in_16:
+        return read_capacity_16(cdb);
+    case op_report_luns:
+        return report_luns(cdb);
+    default:
+        return vendor(cdb, data_out);
+    }
 }
 
 scsi_reply chip::inquiry(byte_view cdb) const {
@@ -240,14 +270,6 @@ scsi_reply chip::read_capacity_16(byte_view cdb) const {
     put_be(&data[8], sector_size, 4);
     cut(data, get_be(&cdb[10], 4));
     return answered(std::move(data));
-}
-
-scsi_reply chip::synchronize() {
-    bool done = true;
-    for (int port = 0; port < ports; ++port) {
-        done = (!answers(port) || path_.perform({io_kind::flush, port, 0, 0, {}})) && done;
-    }
-    return done ? answered({}) : refused(sense::write_failed);
 }
 
 } // namespace enclosure

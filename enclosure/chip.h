@@ -7,6 +7,8 @@
 #include "enclosure/scsi.h"
 #include "enclosure/vendor_commands.h"
 #include "enclosure/volume.h"
+#include "enclosure/volume_commands.h"
+#include "enclosure/volume_io.h"
 
 #include <cstdint>
 #include <optional>
@@ -68,11 +70,17 @@ public:
 
 private:
     scsi_reply dispatch(byte_view cdb, byte_view data_out);
+    scsi_reply carry_out(byte_view cdb, byte_view data_out);
     scsi_reply inquiry(byte_view cdb) const;
     scsi_reply test_ready() const;
     scsi_reply request_sense(byte_view cdb) const;
     scsi_reply read_capacity_10() const;
     scsi_reply read_capacity_16(byte_view cdb) const;
+
+    std::optional<scsi_reply> trouble_with(const block_range& range) const;
+    scsi_reply read_blocks(byte_view cdb);
+    scsi_reply write_blocks(byte_view cdb, byte_view data_out);
+    scsi_reply verify_blocks(byte_view cdb);
     scsi_reply synchronize();
 
     scsi_reply vendor(byte_view cdb, byte_view data_out);
@@ -89,6 +97,7 @@ private:
     bool answers(int port) const;
     port_view look_at(int port);
     void look_at_disks();
+    bool left_with_unfinished_target() const;
     bool goes_on(const kept_copy& before, const std::optional<copy_order>& order) const;
 
     bays& disks_;
@@ -98,6 +107,7 @@ private:
     copy_pair copied_pair_; // of copy_
     port_views views_;
     volume volume_;
+    volume_io volume_io_;
     sense_code last_sense_ = sense::none;
     bool restart_ = false;
 };

@@ -265,11 +265,22 @@ std::size_t desk::clear_faults(const std::string& enclosure) {
     return count;
 }
 
+// A copy that a write has thrown back must not go on later where it was before.
+scsi_reply desk::execute_on(cabinet& what, byte_view cdb, byte_view data_out,
+                            std::uint32_t allocation) {
+    const std::optional<copy_progress> before = what.bridge_chip().copy().progress();
+    scsi_reply reply = what.bridge_chip().execute(cdb, data_out, allocation);
+    if (what.bridge_chip().copy().progress() != before) {
+        watcher_.enclosure_changed(what.settings().name);
+    }
+    return reply;
+}
+
 std::optional<scsi_reply> desk::execute(std::uint32_t handle, byte_view cdb, byte_view data_out,
                                         std::uint32_t allocation) {
     for (const auto& [name, what] : cabinets_) {
         if (what->handle() == handle) {
-            return what->bridge_chip().execute(cdb, data_out, allocation);
+            return execute_on(*what, cdb, data_out, allocation);
         }
     }
     return std::nullopt;

@@ -116,6 +116,8 @@ private:
     void return_to_bus(cabinet& what, moment now,
                        const std::optional<kept_copy>& before = std::nullopt);
     void leave_bus(cabinet& what);
+    scsi_reply execute_on(cabinet& what, byte_view cdb, byte_view data_out,
+                          std::uint32_t allocation);
     bool advance_cabinet(cabinet& what, moment now);
     std::shared_ptr<disk> stocked_disk(const std::string& name);
 

@@ -14,7 +14,8 @@ fault_rule rule_from(const bus::options& values) {
     const auto kind = fault_kind_named(reader.take<std::string>("Kind").value_or(""));
     const auto operation = operation_named(reader.take<std::string>("Operation").value_or(""));
     if (!kind || !operation) {
-        throw problem("fault: take fail, flip, drop or delay for read, write, flush or identify");
+        throw problem("fault: take fail, flip, drop, delay, time-out or tear for read, write, "
+                      "flush or identify");
     }
     rule.kind = *kind;
     rule.operation = *operation;

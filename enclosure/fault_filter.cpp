@@ -1,5 +1,6 @@
 #include "enclosure/fault_filter.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace enclosure {
@@ -20,23 +21,38 @@ class dropping final : public fault_filter {
 
 class delaying final : public fault_filter {
 public:
-    delaying(const fault_rule& rule, disk_io& next, moment& delay)
-        : fault_filter(rule, next), delay_(&delay) {}
+    delaying(const fault_rule& rule, disk_io& next, hold_up& met)
+        : fault_filter(rule, next), met_(&met) {}
 
 private:
     bool strike(const io_request& request) override {
-        *delay_ += rule().delay;
+        met_->delay += rule().delay;
         return hand_on(request);
     }
 
-    moment* delay_;
+    hold_up* met_;
+};
+
+// The disk takes the request and is not heard of again.
+class silencing final : public fault_filter {
+public:
+    silencing(const fault_rule& rule, disk_io& next, hold_up& met)
+        : fault_filter(rule, next), met_(&met) {}
+
+private:
+    bool strike(const io_request&) override {
+        met_->for_ever = true;
+        return false;
+    }
+
+    hold_up* met_;
 };
 
 class flipping final : public fault_filter {
     using fault_filter::fault_filter;
 
     bool strike(const io_request& request) override {
-        const std::size_t at = place_in(request);
+        const auto at = static_cast<std::size_t>(first_struck(request)) * sector_size + rule().byte;
         if (at >= request.data.size()) {
             return hand_on(request);
         }
@@ -52,16 +68,48 @@ class flipping final : public fault_filter {
         return done;
     }
 
-    std::size_t place_in(const io_request& request) const {
-        const std::uint64_t sector =
-            request.lba < rule().first_lba ? rule().first_lba - request.lba : 0;
-        return static_cast<std::size_t>(sector) * sector_size + rule().byte;
-    }
-
     static void turn(std::uint8_t& byte) { byte = static_cast<std::uint8_t>(~byte); }
 };
 
+// As when the power goes in the middle of a write: what comes before the sector struck is made,
+// what comes behind it is not.
+class tearing final : public fault_filter {
+    using fault_filter::fault_filter;
+
+    bool strike(const io_request& request) override {
+        const std::uint64_t whole = first_struck(request);
+        return (whole == 0 || hand_on(part_of(request, 0, whole))) && tear(request, whole);
+    }
+
+    bool tear(const io_request& request, std::uint64_t at) {
+        sector_data mixed{};
+        const std::uint64_t lba = request.lba + at;
+        if (!hand_on({io_kind::read, request.port, lba, 1, mixed})) {
+            return false;
+        }
+        const io_request torn = part_of(request, at, 1);
+        constexpr sector_data zeros{};
+        const byte_view fresh = torn.data.empty() ? byte_view(zeros) : byte_view(torn.data);
+        std::copy_n(fresh.begin(), rule().byte, mixed.begin());
+        return hand_on({io_kind::write, request.port, lba, 1, mixed});
+    }
+
+    static io_request part_of(const io_request& request, std::uint64_t at, std::uint64_t count) {
+        io_request part = request;
+        part.lba += at;
+        part.count = count;
+        if (!request.data.empty()) {
+            part.data = request.data.subspan(at * sector_size, count * sector_size);
+        }
+        return part;
+    }
+};
+
 } // namespace
+
+std::uint64_t fault_filter::first_struck(const io_request& request) const {
+    return request.lba < rule_.first_lba ? rule_.first_lba - request.lba : 0;
+}
 
 bool fault_filter::perform(const io_request& request) {
     if (!rule_.fits(request)) {
@@ -71,7 +119,7 @@ bool fault_filter::perform(const io_request& request) {
     return rule_.nth == 0 || rule_.nth == seen_ ? strike(request) : hand_on(request);
 }
 
-std::unique_ptr<fault_filter> make_filter(const fault_rule& rule, disk_io& next, moment& delay) {
+std::unique_ptr<fault_filter> make_filter(const fault_rule& rule, disk_io& next, hold_up& met) {
     switch (rule.kind) {
     case fault_kind::fail:
         return std::make_unique<failing>(rule, next);
@@ -80,7 +128,11 @@ std::unique_ptr<fault_filter> make_filter(const fault_rule& rule, disk_io& next,
     case fault_kind::drop:
         return std::make_unique<dropping>(rule, next);
     case fault_kind::delay:
-        return std::make_unique<delaying>(rule, next, delay);
+        return std::make_unique<delaying>(rule, next, met);
+    case fault_kind::time_out:
+        return std::make_unique<silencing>(rule, next, met);
+    case fault_kind::tear:
+        return std::make_unique<tearing>(rule, next);
     }
     return nullptr;
 }

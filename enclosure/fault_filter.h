@@ -21,6 +21,9 @@ protected:
     // A request that the rule is about.
     virtual bool strike(const io_request& request) = 0;
 
+    // Which of the request's sectors is the first that the rule is about, counted from 0.
+    std::uint64_t first_struck(const io_request& request) const;
+
     bool hand_on(const io_request& request) { return next_->perform(request); }
 
 private:
@@ -29,7 +32,13 @@ private:
     std::uint64_t seen_ = 0;
 };
 
-// The filter for a rule. A delaying one adds to `delay`, which must outlive it.
-std::unique_ptr<fault_filter> make_filter(const fault_rule& rule, disk_io& next, moment& delay);
+// What becomes of the answer to which requests belong.
+struct hold_up {
+    moment delay{0};       // it takes so much longer
+    bool for_ever = false; // it never comes
+};
+
+// The filter for a rule. Those that hold the answer up note it in `met`, which must outlive them.
+std::unique_ptr<fault_filter> make_filter(const fault_rule& rule, disk_io& next, hold_up& met);
 
 } // namespace enclosure

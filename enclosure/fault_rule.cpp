@@ -9,12 +9,14 @@ namespace enclosure {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kind_names = {"fail", "flip", "drop", "delay"};
+constexpr std::array<std::string_view, 6> kind_names = {"fail",  "flip",     "drop",
+                                                        "delay", "time-out", "tear"};
 constexpr std::array<std::string_view, 4> operation_names = {"read", "write", "flush", "identify"};
 constexpr std::chrono::milliseconds longest_delay = std::chrono::hours(1);
 
-template<class Value>
-std::optional<Value> named(const std::array<std::string_view, 4>& names, std::string_view name) {
+template<class Value, std::size_t Count>
+std::optional<Value> named(const std::array<std::string_view, Count>& names,
+                           std::string_view name) {
     const auto* const found = std::find(names.begin(), names.end(), name);
     if (found == names.end()) {
         return std::nullopt;
@@ -56,6 +58,9 @@ void check_rule(const fault_rule& rule) {
     }
     if (rule.kind == fault_kind::flip && rule.operation == io_kind::flush) {
         throw problem("fault: a flush has no byte to flip; take 'fail' or 'drop'");
+    }
+    if (rule.kind == fault_kind::tear && rule.operation != io_kind::write) {
+        throw problem("fault: only a write can be torn; take 'fail'");
     }
 }
 

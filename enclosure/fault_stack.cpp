@@ -18,7 +18,7 @@ void fault_stack::add(const fault_rule& rule) {
         throw problem("fault: there are 64 already; clear them first");
     }
     disk_io& next = filters_.empty() ? disks_ : *filters_.back();
-    filters_.push_back(make_filter(rule, next, delay_));
+    filters_.push_back(make_filter(rule, next, met_));
 }
 
 bool fault_stack::concerns(int port, std::uint64_t lba, std::uint64_t count) const {

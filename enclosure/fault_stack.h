@@ -27,12 +27,12 @@ public:
     // True when some rule is about reading or writing these sectors of the port.
     bool concerns(int port, std::uint64_t lba, std::uint64_t count) const;
 
-    // The delay that requests met since the last call.
-    moment take_delay() { return std::exchange(delay_, moment{0}); }
+    // What requests met since the last call.
+    hold_up take_hold_up() { return std::exchange(met_, {}); }
 
 private:
     disk_io& disks_;
-    moment delay_{0};
+    hold_up met_;
     std::vector<std::unique_ptr<fault_filter>> filters_;
 };
 

@@ -148,8 +148,9 @@ exchange in_process_bench::execute(std::uint32_t handle, byte_view cdb, byte_vie
         if (!reply) {
             return exchange{delivery::gone, {}};
         }
-        now_ += std::min<moment>(reply->delay, answer_limit);
-        if (reply->delay > answer_limit) {
+        const bool in_time = !reply->unanswered && reply->delay <= answer_limit;
+        now_ += in_time ? reply->delay : answer_limit;
+        if (!in_time) {
             return exchange{delivery::no_answer, {}};
         }
         return exchange{delivery::answered, std::move(*reply)};

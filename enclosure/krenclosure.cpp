@@ -147,16 +147,18 @@ void add_fault(CLI::App& app, action& chosen) {
         app, chosen, "fault", "Give an enclosure a fault, or take all away",
         [](CLI::App& command, fault_options& given) {
             command.add_option("enclosure", given.enclosure, "Name of the enclosure")->required();
-            auto* const kind =
-                command.add_option("kind", given.kind, "fail, flip, drop, delay or clear");
-            kind->required()->check(CLI::IsMember({"fail", "flip", "drop", "delay", "clear"}));
+            auto* const kind = command.add_option(
+                "kind", given.kind, "fail, flip, drop, delay, time-out, tear or clear");
+            kind->required()->check(
+                CLI::IsMember({"fail", "flip", "drop", "delay", "time-out", "tear", "clear"}));
             command.add_option("operation", given.operation, "read, write, flush or identify")
                 ->check(CLI::IsMember({"read", "write", "flush", "identify"}));
             command.add_option("--port", given.port, "0 or 1 (both)");
             command.add_option("--lba", given.first_lba, "First sector concerned (all)");
             command.add_option("--last-lba", given.last_lba, "Last sector concerned (--lba)");
             command.add_option("--nth", given.nth, "Only the nth time (every time)");
-            command.add_option("--byte", given.byte, "flip: byte of the sector (0)");
+            command.add_option("--byte", given.byte,
+                               "flip: byte of the sector, tear: bytes that are written (0)");
             command.add_option("--delay", given.delay, "delay: milliseconds (1000)");
         },
         change_faults);

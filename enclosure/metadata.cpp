@@ -95,6 +95,11 @@ sector_data write_record(const array_record& record) {
     return sector;
 }
 
+void mark_alone(sector_data& sector) {
+    constexpr std::size_t last_of_stamp = at_stamp + 15;
+    sector[last_of_stamp] = sector[at_member] == 0 ? 1 : 2;
+}
+
 std::array<std::uint8_t, 16> stamp_of(std::string_view digits) {
     std::array<std::uint8_t, 16> stamp{};
     std::copy_n(digits.begin(), std::min<std::size_t>(digits.size(), 14), stamp.begin());

@@ -44,6 +44,10 @@ std::optional<array_record> read_record(const sector_data& sector);
 // The sector for a record.
 sector_data write_record(const array_record& record);
 
+// Marks a member's sector: data was written to it without its partner. Its stamp becomes later than
+// the partner's, and never the same as that of a partner marked likewise.
+void mark_alone(sector_data& sector);
+
 // The stamp for a text of 14 digits.
 std::array<std::uint8_t, 16> stamp_of(std::string_view digits);
 

@@ -38,6 +38,13 @@ void mirror_copy::expect(int source, std::uint64_t sectors) {
     progress_ = copy_progress{source, sectors, 0};
 }
 
+void mirror_copy::go_back_to(std::uint64_t lba) {
+    if (unfinished()) {
+        progress_->done = std::min(progress_->done, lba);
+        done_then_ = std::min(done_then_, lba);
+    }
+}
+
 bool mirror_copy::flush_target() const {
     if (!progress_) {
         return false;

@@ -41,6 +41,15 @@ public:
     // Forgets it in favour of one that a later begin() is to begin.
     void expect(int source, std::uint64_t sectors);
 
+    // Copies again from `lba` on if it was beyond; a copy that has ended stays so.
+    void go_back_to(std::uint64_t lba);
+
+    // The sectors from 0 on that source and target have alike; 0 without a copy.
+    std::uint64_t copied() const { return progress_ ? progress_->done : 0; }
+
+    // A copy that has not come to its end, running or not.
+    bool unfinished() const { return progress_ && progress_->done < progress_->sectors; }
+
     // Makes what was copied lasting, in the target's image file and past all faults. False: the
     // target is not there or its file system refused.
     bool flush_target() const;

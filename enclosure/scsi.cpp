@@ -28,11 +28,11 @@ sense_code decode_sense(byte_view bytes) {
 }
 
 scsi_reply answered(std::vector<std::uint8_t> data) {
-    return {scsi_status::good, {}, std::move(data), {}};
+    return {scsi_status::good, {}, std::move(data), {}, false};
 }
 
 scsi_reply refused(const sense_code& code) {
-    return {scsi_status::check_condition, sense_bytes(code), {}, {}};
+    return {scsi_status::check_condition, sense_bytes(code), {}, {}, false};
 }
 
 } // namespace enclosure

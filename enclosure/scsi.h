@@ -31,13 +31,15 @@ inline constexpr sense_code read_failed{0x03, 0x11, 0x00};
 inline constexpr sense_code invalid_opcode{0x05, 0x20, 0x00};
 inline constexpr sense_code lba_out_of_range{0x05, 0x21, 0x00};
 inline constexpr sense_code invalid_field{0x05, 0x24, 0x00};
+inline constexpr sense_code no_saved_values{0x05, 0x39, 0x00};
 } // namespace sense
 
 struct scsi_reply {
     scsi_status status = scsi_status::good;
     std::vector<std::uint8_t> sense; // 18 bytes, or empty when the status is good
     std::vector<std::uint8_t> data_in;
-    moment delay{0}; // the answer arrives that much later
+    moment delay{0};         // the answer arrives that much later
+    bool unanswered = false; // it never arrives: nothing else in here counts
 };
 
 // The 18 bytes for a code.

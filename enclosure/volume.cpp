@@ -8,6 +8,10 @@ namespace {
 
 constexpr std::uint64_t reserved_at_end = 16; // sectors of each disk
 
+std::uint64_t smaller_area(const port_view& a, const port_view& b) {
+    return std::min(a.data_area(), b.data_area());
+}
+
 bool in_array(const port_view& view) {
     return view.present && view.record && view.record->kind != array_kind::none;
 }
@@ -16,15 +20,28 @@ bool names(const port_view& view, const port_view& partner) {
     return partner.present && view.record->partner == partner.identity;
 }
 
-volume mirror_of_both(const array_record& a, const array_record& b) {
-    volume made{array_kind::mirror, volume_state::in_order, std::min(a.sectors, b.sectors)};
-    if (a.copy_source != b.copy_source) {
+std::uint64_t mirror_on(const port_view& member) {
+    return std::min(member.record->sectors, member.data_area());
+}
+
+volume mirror_of_both(const port_view& a, const port_view& b) {
+    volume made{array_kind::mirror, volume_state::in_order, std::min(mirror_on(a), mirror_on(b))};
+    if (a.record->copy_source != b.record->copy_source) {
         made.state = volume_state::copying;
-    } else if (a.stamp != b.stamp) {
+    } else if (a.record->stamp != b.record->stamp) {
         made.state = volume_state::diverged;
-        made.sectors = a.stamp > b.stamp ? a.sectors : b.sectors;
+        made.sectors = mirror_on(a.record->stamp > b.record->stamp ? a : b);
     }
     return made;
+}
+
+// Of a stripe or span. A stripe has as many sectors on the one disk as on the other.
+std::uint64_t joined_sectors(const port_view& a, const port_view& b) {
+    const std::uint64_t wanted = std::min(a.record->sectors, b.record->sectors);
+    if (a.record->kind == array_kind::span) {
+        return std::min(wanted, a.data_area() + b.data_area());
+    }
+    return std::min(wanted / 2, smaller_area(a, b)) * 2;
 }
 
 volume of_two_members(const port_view& a, const port_view& b) {
@@ -33,18 +50,18 @@ volume of_two_members(const port_view& a, const port_view& b) {
         return {array_kind::none, volume_state::broken, 0};
     }
     if (kind == array_kind::mirror) {
-        return mirror_of_both(*a.record, *b.record);
+        return mirror_of_both(a, b);
     }
     if (!names(a, b) || !names(b, a)) {
         return {kind, volume_state::broken, 0};
     }
-    return {kind, volume_state::in_order, std::min(a.record->sectors, b.record->sectors)};
+    return {kind, volume_state::in_order, joined_sectors(a, b)};
 }
 
 volume of_one_member(const port_view& member) {
     const array_record& record = *member.record;
     if (record.kind == array_kind::mirror) {
-        return {record.kind, volume_state::degraded, record.sectors};
+        return {record.kind, volume_state::degraded, mirror_on(member)};
     }
     return {record.kind, volume_state::broken, 0};
 }
@@ -59,6 +76,10 @@ volume of_plain_disks(const port_views& views) {
 }
 
 } // namespace
+
+std::uint64_t port_view::data_area() const {
+    return sectors - std::min(sectors, reserved_at_end);
+}
 
 volume decide_volume(const port_views& views) {
     const bool first = in_array(views[0]);
@@ -80,11 +101,8 @@ std::optional<copy_order> decide_copy(const port_views& views) {
         return std::nullopt;
     }
     const std::size_t source = views[0].record->copy_source ? 0 : 1;
-    const std::uint64_t smaller = std::min(views[0].sectors, views[1].sectors);
-    if (smaller <= reserved_at_end) {
-        return std::nullopt;
-    }
-    const std::uint64_t area = std::min(views[source].record->sectors, smaller - reserved_at_end);
+    const std::uint64_t area =
+        std::min(views[source].record->sectors, smaller_area(views[0], views[1]));
     if (area == 0) {
         return std::nullopt;
     }

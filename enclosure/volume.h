@@ -17,6 +17,9 @@ struct port_view {
     std::optional<array_record> record;
 
     bool is(array_kind kind) const { return present && record && record->kind == kind; }
+
+    // Sectors that an array may use: all but the disk's last 16. 0 for a smaller disk.
+    std::uint64_t data_area() const;
 };
 
 using port_views = std::array<port_view, ports>;
@@ -39,6 +42,7 @@ struct volume {
     bool operator==(const volume&) const = default;
 };
 
+// Never larger than the members' data areas hold, whatever their records say.
 volume decide_volume(const port_views& views);
 
 // The copy that the metadata ask for: from the only marked member of a mirror to the other.
