@@ -129,6 +129,7 @@ TEST_F(Command, WhatCannotBeDoneIsSaidInOneLine) {
     expect_refused("unplug box", "'box'");
     expect_refused("rate box fast", "'fast'");
     expect_refused("fault box flip flush", "flush");
+    expect_refused("fault box tear read", "only a write");
 }
 
 TEST_F(Command, WrongUseIsStatus2) {
@@ -232,6 +233,37 @@ TEST_F(Command, AnAnswerThatTakesTimeHoldsUpNobodyElse) {
     EXPECT_FALSE(answered);
     slow.join();
     EXPECT_EQ(status, 0);
+}
+
+TEST_F(Command, ADiskThatHangsLeavesItsCallerWithoutAnswerAndNobodyElse) {
+    command("new box");
+    command("scenario box raid1");
+    command("plug box");
+    expect_done("fault box time-out read --port 0 --lba 7", "time-out read");
+    const auto connection = sdbus::createSessionBusConnection();
+    const auto bridge = sdbus::createProxy(*connection, enclosure::bus::service,
+                                           enclosure::bus::bridge_path(host_.handle_of("box")));
+    const auto read_sector_7 = [&] {
+        std::tuple<std::uint8_t, std::vector<std::uint8_t>, std::vector<std::uint8_t>> reply;
+        bridge->callMethod("Execute")
+            .onInterface(enclosure::bus::bridge_interface)
+            .withTimeout(std::chrono::milliseconds(300))
+            .withArguments(std::vector<std::uint8_t>{0x28, 0, 0, 0, 0, 7, 0, 0, 1, 0},
+                           std::uint32_t{512}, std::vector<std::uint8_t>{})
+            .storeResultsTo(std::get<0>(reply), std::get<1>(reply), std::get<2>(reply));
+        return std::get<2>(reply).size();
+    };
+    for (int i = 0; i < 3; ++i) {
+        try {
+            read_sector_7();
+            ADD_FAILURE() << "answered";
+        } catch (const sdbus::Error& error) {
+            EXPECT_NE(error.getMessage().find("timed out"), std::string::npos)
+                << error.getName() << ": " << error.getMessage();
+        }
+    }
+    expect_done("fault box clear", "1 fault");
+    EXPECT_EQ(read_sector_7(), 512U);
 }
 
 TEST_F(Command, HostileRequestsAreRefused) {

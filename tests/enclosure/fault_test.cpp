@@ -8,6 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace enclosure {
 namespace {
 
@@ -109,6 +113,37 @@ TEST_F(Fault, ADelayBeyondTheLimitIsNone) {
     EXPECT_EQ(read(10, 0, data), 0);
 }
 
+TEST_F(Fault, ATimeOutIsNoAnswerAndTheWriteIsNotMade) {
+    bench_.write_image("a", 10, sector_number(1));
+    add(fault_kind::time_out, io_kind::write);
+    EXPECT_EQ(write(10, 0, sector_number(2)), -1);
+    EXPECT_EQ(bench_.read_image("a", 10), sector_number(1));
+    EXPECT_EQ(write(11, 0, sector_number(2)), 0);
+    sector_data data{};
+    EXPECT_EQ(read(10, 0, data), 0);
+}
+
+TEST_F(Fault, ATimeOutOfTheChipsOwnWorkIsNobodysAnswer) {
+    fault_rule rule;
+    rule.kind = fault_kind::time_out;
+    rule.operation = io_kind::identify;
+    rule.nth = 1;
+    bench_.add_fault("box", rule);
+    bench_.pull("box", 1); // the chip looks at what is left
+    sector_data data{};
+    EXPECT_EQ(read(10, 0, data), 0);
+}
+
+TEST_F(Fault, ATornWriteHasItsFirstBytesOnly) {
+    bench_.write_image("a", 10, sector_number(1));
+    add(fault_kind::tear, io_kind::write);
+    EXPECT_EQ(write(10, 0, sector_number(2)), 0);
+    sector_data expected = sector_number(1);
+    const sector_data fresh = sector_number(2);
+    std::copy_n(fresh.begin(), 3, expected.begin());
+    EXPECT_EQ(bench_.read_image("a", 10), expected);
+}
+
 TEST_F(Fault, ADiskThatDoesNotIdentifyIsNotSeenEither) {
     fault_rule rule;
     rule.operation = io_kind::identify;
@@ -143,6 +178,8 @@ TEST_F(Fault, RulesWithoutSenseAreRefused) {
     fault_rule rule;
     rule.kind = fault_kind::drop;
     EXPECT_THROW(bench_.add_fault("box", rule), problem);
+    rule.kind = fault_kind::tear;
+    EXPECT_THROW(bench_.add_fault("box", rule), problem);
     rule = {};
     rule.first_lba = 2;
     rule.last_lba = 1;
@@ -163,6 +200,57 @@ TEST_F(Fault, ThereIsAnEndToThem) {
         bench_.add_fault("box", {});
     }
     EXPECT_THROW(bench_.add_fault("box", {}), problem);
+}
+
+// What a disk was asked to write.
+class written_down final : public disk_io {
+public:
+    bool perform(const io_request& request) override {
+        if (request.kind == io_kind::read) {
+            std::fill(request.data.begin(), request.data.end(), std::uint8_t{0xEE});
+        } else {
+            what.push_back({request.lba, {request.data.begin(), request.data.end()}});
+        }
+        return true;
+    }
+
+    std::vector<std::pair<std::uint64_t, std::vector<std::uint8_t>>> what;
+};
+
+TEST(TornWrite, OfManySectorsEndsInTheFirstOneStruck) {
+    written_down disk;
+    fault_stack faults(disk);
+    fault_rule rule;
+    rule.kind = fault_kind::tear;
+    rule.operation = io_kind::write;
+    rule.first_lba = 102;
+    rule.last_lba = 103;
+    rule.byte = 511;
+    faults.add(rule);
+    std::vector<std::uint8_t> data(5 * sector_size, 7);
+    EXPECT_TRUE(faults.perform({io_kind::write, 0, 100, 5, data}));
+    ASSERT_EQ(disk.what.size(), 2U);
+    EXPECT_EQ(disk.what[0].first, 100U);
+    EXPECT_EQ(disk.what[0].second, std::vector<std::uint8_t>(2 * sector_size, 7));
+    std::vector<std::uint8_t> torn(sector_size, 7);
+    torn[511] = 0xEE;
+    EXPECT_EQ(disk.what[1].first, 102U);
+    EXPECT_EQ(disk.what[1].second, torn);
+}
+
+TEST(TornWrite, OfZerosWithoutDataTearsAlike) {
+    written_down disk;
+    fault_stack faults(disk);
+    fault_rule rule;
+    rule.kind = fault_kind::tear;
+    rule.operation = io_kind::write;
+    rule.byte = 500;
+    faults.add(rule);
+    EXPECT_TRUE(faults.perform({io_kind::write, 0, 100, 5, {}}));
+    ASSERT_EQ(disk.what.size(), 1U);
+    std::vector<std::uint8_t> torn(sector_size, 0xEE);
+    std::fill_n(torn.begin(), 500, std::uint8_t{0});
+    EXPECT_EQ(disk.what[0].second, torn);
 }
 
 TEST(FaultRule, AMultiSectorRequestIsHitWhereItOverlaps) {

@@ -136,6 +136,15 @@ TEST_F(VolumeCommands, FailWithTheirDisk) {
     EXPECT_EQ(host_.write(257, bytes(512)).status, scsi_status::good);
 }
 
+TEST_F(VolumeCommands, AreNotAnsweredByADiskThatHangs) {
+    start(scenario::raid1);
+    host_.add_fault(fault_kind::time_out, io_kind::read, 0, 5, 5);
+    EXPECT_TRUE(host_.read(0, 8).unanswered);
+    EXPECT_FALSE(host_.read(0, 5).unanswered);
+    host_.add_fault(fault_kind::time_out, io_kind::write, 1, 5, 5);
+    EXPECT_TRUE(host_.write(5, bytes(512)).unanswered);
+}
+
 TEST_F(VolumeCommands, AreRefusedWithoutAVolume) {
     for (const std::uint8_t code : {op_read_10, op_write_10, op_verify_10}) {
         EXPECT_EQ(sense_of(host_.send(cdb_10(code, 0, 1), bytes(512))), sense::no_medium);
