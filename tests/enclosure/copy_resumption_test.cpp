@@ -156,6 +156,30 @@ TEST_F(CopyResumption, ADiskPutBackLeavesTheCopyWhereItStopped) {
     EXPECT_EQ(chip_of(life).copy().progress(), (copy_progress{0, area, 3000}));
 }
 
+TEST_F(CopyResumption, ACopyThatAWriteHasThrownBackGoesOnFromThere) {
+    {
+        kept_desk life(folder_.path());
+        run(life, 3s);
+        life.store.save_enclosure(life.on.enclosure("box"));
+        fault_rule rule;
+        rule.operation = io_kind::write;
+        rule.port = 1;
+        rule.first_lba = rule.last_lba = 100;
+        life.on.add_fault("box", rule);
+        const std::vector<std::uint8_t> write_10{0x2A, 0, 0, 0, 0, 100, 0, 0, 1, 0};
+        const auto reply =
+            life.on.execute(*life.on.enclosure("box").handle(), write_10, sector_number(7), 0);
+        ASSERT_TRUE(reply);
+        EXPECT_EQ(reply->status, scsi_status::good);
+    }
+    kept_desk life(folder_.path());
+    EXPECT_EQ(chip_of(life).copy().progress(), (copy_progress{0, area, 100}));
+    run(life, 1h);
+    sector_data copied{};
+    ASSERT_TRUE(life.on.disks().at("b")->image().read(100, copied));
+    EXPECT_EQ(copied, sector_number(7));
+}
+
 TEST_F(CopyResumption, AProgressIsNotKeptWithoutTheDiskThatHasIt) {
     {
         kept_desk life(folder_.path());
