@@ -135,8 +135,8 @@ bool chip::left_with_unfinished_target() const {
         return false;
     }
     const auto target = static_cast<std::size_t>(1 - copy_.progress()->source);
-    const copy_pair::member& left = pair_of(views_).members[target];
-    return views_[target].present && left == copied_pair_.members[target];
+    const copy_pair there = pair_of(views_);
+    return views_[target].present && there.members[target] == copied_pair_.members[target];
 }
 
 port_view chip::look_at(int port) {

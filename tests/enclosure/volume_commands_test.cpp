@@ -20,7 +20,7 @@ TEST_F(VolumeCommands, ReadWhatWasWritten) {
     EXPECT_TRUE(host_.send(cdb_10(op_read_10, 40, 5)).data_in == data);
     EXPECT_TRUE(host_.send(cdb_16(op_read_16, 40, 5)).data_in == data);
     EXPECT_EQ(host_.on_disk(0, 40, 5), data);
-    EXPECT_EQ(host_.on_disk(1, 40, 5), bytes(5 * 512));
+    EXPECT_EQ(host_.on_disk(1, 40, 5), zeros(5));
 }
 
 TEST_F(VolumeCommands, ReachTheLastSectorAndNoFurther) {
@@ -59,7 +59,7 @@ TEST_F(VolumeCommands, OfNoSectorsDoNothing) {
         EXPECT_EQ(reply.status, scsi_status::good);
         EXPECT_TRUE(reply.data_in.empty());
     }
-    EXPECT_EQ(host_.on_disk(0, 0, sectors - 16), bytes((sectors - 16) * 512));
+    EXPECT_EQ(host_.on_disk(0, 0, sectors - 16), zeros(sectors - 16));
 }
 
 TEST_F(VolumeCommands, MoveAtMost4MiB) {
@@ -68,7 +68,7 @@ TEST_F(VolumeCommands, MoveAtMost4MiB) {
     host_.expect_written(0, data);
     host_.expect_reads(0, data);
     EXPECT_EQ(sense_of(host_.read(0, 8193)), sense::invalid_field);
-    EXPECT_EQ(sense_of(host_.write(0, bytes(8193 * 512))), sense::invalid_field);
+    EXPECT_EQ(sense_of(host_.write(0, zeros(8193))), sense::invalid_field);
     host_.expect_reads(0, data);
 }
 

@@ -25,6 +25,11 @@ inline bytes sectors_from(std::uint64_t lba, std::uint64_t count, std::uint64_t 
     return data;
 }
 
+// So many sectors without content.
+inline bytes zeros(std::uint64_t count) {
+    return bytes(count * enclosure::sector_size);
+}
+
 // Key, code and qualifier of a refusal, which must be one.
 inline enclosure::sense_code sense_of(const enclosure::scsi_reply& reply) {
     EXPECT_EQ(reply.status, enclosure::scsi_status::check_condition);

@@ -151,8 +151,8 @@ void expect_sound(const port_views& views) {
 
 TEST(VolumeLayout, NoSectorLiesOutsideTheMembersOrTwice) {
     for (const array_kind kind : {array_kind::stripe, array_kind::mirror, array_kind::span}) {
-        for (const std::uint64_t first : {0, 15, 16, 17, 143, 144, 145, 500, 70'001}) {
-            for (const std::uint64_t second : {16, 17, 271, 272, 273, 69'999}) {
+        for (const std::uint64_t first : {0U, 15U, 16U, 17U, 143U, 144U, 145U, 500U, 70'001U}) {
+            for (const std::uint64_t second : {16U, 17U, 271U, 272U, 273U, 69'999U}) {
                 for (const std::uint64_t array :
                      {1ULL, 2ULL, 255ULL, 257ULL, 1000ULL, 139'000ULL, 1ULL << 40, ~0ULL}) {
                     expect_sound(pair_in(kind, first, second, array));

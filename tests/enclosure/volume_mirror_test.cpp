@@ -168,7 +168,7 @@ TEST_F(VolumeMirror, DegradedLeavesADiskInNoArrayAlone) {
     ASSERT_EQ(host_.state(), volume_state::degraded);
     host_.expect_written(0, sectors_from(1, 100));
     host_.expect_reads(0, sectors_from(1, 100));
-    EXPECT_EQ(host_.on_disk(0, 0, sectors), bytes(sectors * 512));
+    EXPECT_EQ(host_.on_disk(0, 0, sectors), zeros(sectors));
 }
 
 TEST_F(VolumeMirror, DivergedIsItsNewerHalf) {
@@ -215,7 +215,7 @@ TEST_F(VolumeWhileCopying, IsReadFromTheTargetOnlyWhereItWasCopied) {
 }
 
 TEST_F(VolumeWhileCopying, IsWrittenOnBothWhereverTheCopyStands) {
-    for (const std::uint64_t lba : {0, 1990, 1995, 2000, 2005, 5000, 5974}) {
+    for (const std::uint64_t lba : {0U, 1990U, 1995U, 2000U, 2005U, 5000U, 5974U}) {
         host_.expect_written(lba, sectors_from(lba, 10, 5));
         EXPECT_EQ(host_.on_disk(0, lba, 10), sectors_from(lba, 10, 5)) << lba;
         EXPECT_EQ(host_.on_disk(1, lba, 10), sectors_from(lba, 10, 5)) << lba;
@@ -226,10 +226,10 @@ TEST_F(VolumeWhileCopying, IsWrittenOnBothWhereverTheCopyStands) {
 }
 
 TEST_F(VolumeWhileCopying, ZerosAheadOfTheCopyStayZeros) {
-    host_.expect_written(3000, bytes(512 * 64));
-    EXPECT_EQ(host_.on_disk(1, 3000, 64), bytes(512 * 64));
+    host_.expect_written(3000, zeros(64));
+    EXPECT_EQ(host_.on_disk(1, 3000, 64), zeros(64));
     expect_alike_in_the_end();
-    EXPECT_EQ(host_.on_disk(1, 3000, 64), bytes(512 * 64));
+    EXPECT_EQ(host_.on_disk(1, 3000, 64), zeros(64));
 }
 
 TEST_F(VolumeWhileCopying, AWriteThatTheTargetMissedIsCopiedAgain) {
