@@ -5,6 +5,7 @@
 #include "enclosure/mirror_copy.h"
 #include "enclosure/volume_layout.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 

@@ -1,6 +1,8 @@
 // The commands by which a host reads and writes the volume, and asks about it.
 #include "tests/enclosure/volume_host.h"
 
+#include <array>
+
 namespace enclosure {
 namespace {
 

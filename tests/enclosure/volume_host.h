@@ -11,7 +11,9 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
 
 using bytes = std::vector<std::uint8_t>;
 

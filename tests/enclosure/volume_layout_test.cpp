@@ -3,6 +3,9 @@
 
 #include "tests/enclosure/volume_host.h"
 
+#include <array>
+#include <vector>
+
 namespace enclosure {
 namespace {
 

@@ -1,6 +1,8 @@
 // What a host reads and writes when the volume is a mirror, in every state of it.
 #include "tests/enclosure/volume_host.h"
 
+#include <array>
+
 namespace enclosure {
 namespace {
 

@@ -1,6 +1,7 @@
 // Random work on a volume does what it does to a plain row of sectors.
 #include "tests/enclosure/volume_host.h"
 
+#include <array>
 #include <random>
 
 namespace enclosure {
