@@ -17,6 +17,7 @@
 #include "app/system_version.h"
 #include "app/tab_view.h"
 #include "app/tabviewdel.h"
+#include "device/volume_uses.h"
 #include "model/change_plan.h"
 #include "model/monitor.h"
 #include "model/window.h"
@@ -203,6 +204,12 @@ private:
     // outdated: nothing was done, and the bridges have to be read again.
     enum class outcome { dropped, outdated, done, failed };
 
+    // Whether a change may begin (done), and which uses of the volume are against it.
+    struct clearance {
+        outcome end;
+        std::vector<volume_use> uses;
+    };
+
     void ui(const std::function<void()>& step);
     void as_body(const std::function<void()>& body);
     // Connects a button to an action that is carried out only while the window is idle.
@@ -230,13 +237,15 @@ private:
     void show_rebuild(const krchip& chip, const view_state& view, chip_place place);
     void bring_rebuild_tab(bool gate_grants);
 
-    change_plan plan_for_selected(array_change what, int mode) const;
+    change_plan plan_for_selected(array_change what, int mode);
     bool with_scenes(const std::function<bool()>& operation);
     bool granted(const char* question, const change_plan& plan);
     outcome carry_out(const change_plan& plan,
                       const std::function<bool(std::int32_t chip)>& operation);
-    outcome may_begin(const change_plan& plan);
-    static outcome compare(const change_plan& plan);
+    clearance may_begin(const change_plan& plan);
+    static clearance compare(const change_plan& plan);
+    void put_refusal(panel_request& request, const std::vector<volume_use>& uses) const;
+    void refuse(const std::vector<volume_use>& uses);
     bool goes_on_without_copy(const std::string& trouble);
     void rebuild(array_change direction, const char* question);
     void cleardisk(array_change what, bool port);

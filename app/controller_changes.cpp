@@ -7,7 +7,9 @@
 #include "app/safety_copy.h"
 #include "app/scene.h"
 #include "app/scene_outlook.h"
+#include "app/use_text.h"
 #include "app/window_extras.h"
+#include "device/volume_uses.h"
 #include "model/krtool.h"
 
 namespace {
@@ -103,25 +105,33 @@ void controller::cleardisk(array_change what, bool port) {
 
 void controller::warmboot() {
     const controller_t named = extras->restart_target;
-    as_body([this, &named] {
+    std::vector<volume_use> uses;
+    as_body([&] {
         const gate_scope gate(j.gate);
         // The list may have changed while the click waited.
         if (j.chips.empty() || !(j.chips.front().identity == named)) {
+            return;
+        }
+        uses = j.with.volumes.of(j.chips.front().device);
+        if (!uses.empty()) {
             return;
         }
         disablegui(false);
         ui([this] { show_reasons(*this, reasons_while_restarting(j.with.texts)); });
         j.warm_boot();
     });
+    refuse(uses);
 }
 
-change_plan controller::plan_for_selected(array_change what, int mode) const {
+change_plan controller::plan_for_selected(array_change what, int mode) {
     const std::optional<chip_snapshot> current = j.current_chip();
     if (!current) {
-        return plan_change(what, mode, nullptr, {});
+        return plan_change(what, mode, nullptr, {}, {});
     }
     const QString enclosure = controllerselectbox->text_of(current->chip.identity);
-    return plan_change(what, mode, &current->chip, enclosure.toStdString());
+    std::vector<volume_use> uses;
+    as_body([&] { uses = j.with.volumes.of(current->chip.device); });
+    return plan_change(what, mode, &current->chip, enclosure.toStdString(), uses);
 }
 
 bool controller::granted(const char* question, const change_plan& plan) {
@@ -129,53 +139,93 @@ bool controller::granted(const char* question, const change_plan& plan) {
     if (plan.has_chip) {
         request.plan = describe(plan, check_OS_version(), j.with.texts);
     }
-    const bool yes = is_yes(panels_.ask(request));
+    const bool forbidden = !plan.uses.empty();
+    if (forbidden) {
+        put_refusal(request, plan.uses);
+    }
+    const bool yes = is_yes(panels_.ask(request)) && !forbidden;
     obey_remembered_exit();
     return yes;
 }
 
-controller::outcome controller::carry_out(const change_plan& plan,
-                                          const std::function<bool(std::int32_t chip)>& operation) {
-    outcome end = outcome::dropped;
-    as_body([&] {
-        const gate_scope gate(j.gate);
-        end = may_begin(plan);
-        if (end == outcome::done) {
-            end = operation(j.get_controller_num(j.current)) ? outcome::done : outcome::failed;
-        }
-    });
-    if (end == outcome::outdated) {
-        refresh();
-    }
-    return end;
+// In place of a question: nothing is left to be granted.
+void controller::put_refusal(panel_request& request, const std::vector<volume_use>& uses) const {
+    const use_view refusal = describe(uses, j.with.texts);
+    request.message = refusal.message;
+    request.lines = refusal.lines;
+    request.buttons = {s_ok};
 }
 
-controller::outcome controller::may_begin(const change_plan& plan) {
-    const outcome now = compare(plan);
+controller::outcome controller::carry_out(const change_plan& plan,
+                                          const std::function<bool(std::int32_t chip)>& operation) {
+    clearance now{outcome::dropped, {}};
+    as_body([&] {
+        const gate_scope gate(j.gate);
+        now = may_begin(plan);
+        if (now.end == outcome::done) {
+            now.end = operation(j.get_controller_num(j.current)) ? outcome::done : outcome::failed;
+        }
+    });
+    refuse(now.uses);
+    if (now.end == outcome::outdated) {
+        refresh();
+    }
+    return now.end;
+}
+
+controller::clearance controller::may_begin(const change_plan& plan) {
+    const clearance now = compare(plan);
     const krchip* chip = j.selected();
-    if (now != outcome::done || chip == nullptr) {
+    if (now.end != outcome::done || chip == nullptr) {
         return now;
     }
     const std::time_t time = j.with.clock.now();
     const std::string trouble = copies_.keep(safety_copy_text(plan, *chip, time), time);
     if (trouble.empty()) {
-        return outcome::done;
+        return now;
     }
-    return goes_on_without_copy(trouble) ? compare(plan) : outcome::outdated;
+    if (!goes_on_without_copy(trouble)) {
+        return {outcome::outdated, {}};
+    }
+    clearance again = compare(plan);
+    if (!again.uses.empty()) {
+        again.end = outcome::outdated; // the first comparison has stopped the monitors
+    }
+    return again;
 }
 
 // What has changed since it was confirmed was not confirmed. A disk that was exchanged may have
 // told nobody, so the disks themselves are asked: last, when no monitor's panel can hold up the
-// change any more.
-controller::outcome controller::compare(const change_plan& plan) {
+// change any more. All that takes time, in which the volume may have been mounted.
+controller::clearance controller::compare(const change_plan& plan) {
     krchip* chip = j.selected();
-    if (!still_holds(plan, chip)) {
-        return outcome::dropped;
+    if (chip == nullptr) {
+        return {still_holds(plan, chip, {}) ? outcome::done : outcome::dropped, {}};
     }
-    if (chip != nullptr && chip->has_monitors()) {
+    const std::vector<volume_use> uses = j.with.volumes.of(chip->device);
+    if (!still_holds(plan, chip, uses)) {
+        const bool used_now = still_holds(plan, chip, plan.uses);
+        return {outcome::dropped, used_now ? uses : std::vector<volume_use>()};
+    }
+    if (chip->has_monitors()) {
         chip->stop_monitors();
     }
-    return chip == nullptr || chip->same_disks_answer() ? outcome::done : outcome::outdated;
+    if (!chip->same_disks_answer()) {
+        return {outcome::outdated, {}};
+    }
+    const std::vector<volume_use> late = j.with.volumes.of(chip->device);
+    return {late.empty() ? outcome::done : outcome::outdated, late};
+}
+
+void controller::refuse(const std::vector<volume_use>& uses) {
+    if (uses.empty()) {
+        return;
+    }
+    panel_request request{panel_kind::warning, s_warning, {}, {}};
+    put_refusal(request, uses);
+    // The list may name another bridge than this is about.
+    notify_and_ask(request, request.message, urgency::critical);
+    obey_remembered_exit();
 }
 
 bool controller::goes_on_without_copy(const std::string& trouble) {

@@ -23,6 +23,7 @@
 #include "device/emulated_bus.h"
 #include "device/linked_library.h"
 #include "device/source_registry.h"
+#include "device/sysfs_volume_uses.h"
 #ifdef KESTREL_REACHES_REAL_BRIDGES
 #include "device/udev_source.h"
 #endif
@@ -52,11 +53,12 @@ string_table texts;
 exit_gate way_out;
 desktop_version version;
 copies_in_state_folder copies;
+sysfs_volume_uses volumes;
 
 } // namespace
 
 krtool j(std::make_unique<treeview>(texts),
-         {library, registry, registry, sleeper, wall, threads, console, texts, way_out});
+         {library, registry, registry, sleeper, wall, threads, console, texts, way_out, volumes});
 window* ctrller = nullptr;
 
 namespace {

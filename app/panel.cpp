@@ -37,6 +37,17 @@ const char* icon_of(panel_kind kind) {
     return "panel-info";
 }
 
+// The message with its lines, each as a part of one sentence.
+std::string heard(const panel_request& request) {
+    std::string text = request.message;
+    const char* gap = " ";
+    for (const std::string& line : request.lines) {
+        text += gap + line;
+        gap = "; ";
+    }
+    return text;
+}
+
 class panel_dialog final : public overlay_dialog {
 public:
     panel_dialog(QWidget* parent, const panel_request& request);
@@ -49,7 +60,7 @@ private:
 panel_dialog::panel_dialog(QWidget* parent, const panel_request& request) : overlay_dialog(parent) {
     setObjectName(QStringLiteral("panel"));
     setAccessibleName(one_line(request.title));
-    setAccessibleDescription(one_line(request.message));
+    setAccessibleDescription(one_line(heard(request)));
     QVBoxLayout* inner = make_frame();
     inner->setSpacing(0);
     inner->addLayout(make_head(request));
@@ -69,6 +80,9 @@ QLayout* panel_dialog::make_head(const panel_request& request) {
     texts->setSpacing(4);
     texts->addWidget(one_line_text(one_line(request.title), title_height, "title"));
     texts->addWidget(wrapped_text(plain_lines(request.message), "message"));
+    for (const std::string& line : request.lines) {
+        texts->addWidget(one_line_text(one_line(line), line_height, "value"));
+    }
     if (request.plan) {
         texts->addSpacing(2);
         texts->addWidget(wrapped_text(one_line(request.plan->heading), "strong"));

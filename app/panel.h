@@ -19,6 +19,7 @@ struct panel_request {
     std::string message;
     std::vector<std::string> buttons;             // one or two; the first is the default
     std::optional<plan_view> plan = std::nullopt; // of the change that is asked about
+    std::vector<std::string> lines = {};          // one below the other under the message
 };
 
 inline constexpr int panel_default = 1;

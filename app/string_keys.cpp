@@ -51,7 +51,7 @@ constexpr std::array<std::string_view, 43> designed = {
     "device",
 };
 
-constexpr std::array<std::string_view, 118> of_the_window = {
+constexpr std::array<std::string_view, 129> of_the_window = {
     "ui_controllers",
     "ui_system_information",
     "ui_devices",
@@ -170,6 +170,17 @@ constexpr std::array<std::string_view, 118> of_the_window = {
     "ui_reason_restarting",
     "ui_said",
     "ui_said_array",
+    "ui_volume_in_use",
+    "ui_volume_unchecked",
+    "ui_remedy_unmount",
+    "ui_remedy_swapoff",
+    "ui_remedy_release",
+    "ui_remedy_reconnect",
+    "ui_try_again",
+    "ui_use_mounted",
+    "ui_use_swap",
+    "ui_use_held",
+    "ui_uses_more",
 };
 
 } // namespace

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int levels_to_bus_device = 4;
 constexpr std::size_t inquiry_vendor_size = 8;
 constexpr std::size_t longest_name = 127;
 constexpr std::uint64_t highest_usb_id = 0xFFFF;

@@ -13,6 +13,9 @@
 // The subsystem of such nodes.
 inline constexpr const char* node_subsystem = "scsi_generic";
 
+// From the SCSI device up: its target, its host, the interface or unit, the device on the bus.
+inline constexpr int levels_to_bus_device = 4;
+
 struct bridge_node {
     std::string path;       // its folder in sysfs
     std::string bus_device; // that of the USB or FireWire device that carries it

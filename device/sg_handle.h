@@ -12,3 +12,13 @@ constexpr std::uint32_t sg_handle(std::uint32_t minor, std::uint64_t arrival) {
     return 0x80000000U | static_cast<std::uint32_t>(arrival & 0xFFFFU) << 15 |
            (minor & sg_most_minor);
 }
+
+// Whether it is such a handle.
+constexpr bool is_sg_handle(std::uint32_t handle) {
+    return (handle & 0x80000000U) != 0;
+}
+
+// The node's minor number.
+constexpr std::uint32_t sg_minor(std::uint32_t handle) {
+    return handle & sg_most_minor;
+}

@@ -75,7 +75,7 @@ planned_disk plan_disk(array_change what, const krchip& chip, std::size_t port) 
 } // namespace
 
 change_plan plan_change(array_change what, int mode, const krchip* chip,
-                        const std::string& enclosure) {
+                        const std::string& enclosure, const std::vector<volume_use>& uses) {
     change_plan plan;
     plan.what = carried_out(what, mode);
     plan.mode = mode;
@@ -84,6 +84,7 @@ change_plan plan_change(array_change what, int mode, const krchip* chip,
         return plan;
     }
     plan.has_chip = true;
+    plan.uses = uses;
     plan.controller = chip->identity;
     for (std::size_t port = 0; port < plan.disks.size(); ++port) {
         plan.disks[port] = plan_disk(plan.what, *chip, port);
@@ -91,6 +92,8 @@ change_plan plan_change(array_change what, int mode, const krchip* chip,
     return plan;
 }
 
-bool still_holds(const change_plan& confirmed, const krchip* chip) {
-    return plan_change(confirmed.what, confirmed.mode, chip, confirmed.enclosure) == confirmed;
+bool still_holds(const change_plan& confirmed, const krchip* chip,
+                 const std::vector<volume_use>& uses) {
+    return plan_change(confirmed.what, confirmed.mode, chip, confirmed.enclosure, uses) ==
+           confirmed;
 }

@@ -4,7 +4,9 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
+#include "device/volume_uses.h"
 #include "model/raid.h"
 #include "util/library.h"
 
@@ -47,15 +49,19 @@ struct change_plan {
     controller_t controller;           // whose disks they are
     std::string enclosure;             // its name, as the user knows it
     std::array<planned_disk, 2> disks; // index = port
+    std::vector<volume_use> uses;      // of its volume; any of them forbids the change
 
     // Equal plans mean the same change of the same disks.
     bool operator==(const change_plan& other) const = default;
 };
 
 // The plan for a chip, or for none. Creating with a mode that is no array is a plan to delete,
-// as krchip::create_raid carries it out. With the records held, or for a copy; any thread.
+// as krchip::create_raid carries it out. `uses`: of the chip's volume. With the records held, or
+// for a copy; any thread.
 change_plan plan_change(array_change what, int mode, const krchip* chip,
-                        const std::string& enclosure);
+                        const std::string& enclosure, const std::vector<volume_use>& uses);
 
-// Whether the plan made anew for `chip` is the one that was confirmed. As plan_change.
-bool still_holds(const change_plan& confirmed, const krchip* chip);
+// Whether the plan made anew for `chip`, whose volume is used like this now, is the one that was
+// confirmed. As plan_change.
+bool still_holds(const change_plan& confirmed, const krchip* chip,
+                 const std::vector<volume_use>& uses);

@@ -10,6 +10,7 @@
 class access_library;
 class device_registry;
 class hotplug_source;
+class volume_uses;
 class exit_gate;
 class wake_point;
 
@@ -62,4 +63,5 @@ struct services {
     console_log& console;
     const text_lookup& texts;
     exit_gate& exit;
+    volume_uses& volumes;
 };

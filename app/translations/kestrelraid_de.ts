@@ -647,5 +647,49 @@
         <source></source>
         <translation>%1: %2. %3</translation>
     </message>
+    <message id="ui_volume_in_use">
+        <source></source>
+        <translation>Das Volume des Gehäuses wird verwendet; deshalb wurde nichts geändert.</translation>
+    </message>
+    <message id="ui_volume_unchecked">
+        <source></source>
+        <translation>Es ließ sich nicht feststellen, ob das Volume des Gehäuses verwendet wird; deshalb wurde nichts geändert.</translation>
+    </message>
+    <message id="ui_remedy_unmount">
+        <source></source>
+        <translation>Hängen Sie die Dateisysteme aus.</translation>
+    </message>
+    <message id="ui_remedy_swapoff">
+        <source></source>
+        <translation>Schalten Sie den Auslagerungsbereich ab (swapoff).</translation>
+    </message>
+    <message id="ui_remedy_release">
+        <source></source>
+        <translation>Beenden Sie, was es belegt, etwa Verschlüsselung, LVM oder Software-RAID.</translation>
+    </message>
+    <message id="ui_remedy_reconnect">
+        <source></source>
+        <translation>Trennen Sie das Gehäuse und schließen Sie es wieder an.</translation>
+    </message>
+    <message id="ui_try_again">
+        <source></source>
+        <translation>Versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message id="ui_use_mounted">
+        <source></source>
+        <translation>%1 ist unter %2 eingehängt</translation>
+    </message>
+    <message id="ui_use_swap">
+        <source></source>
+        <translation>%1 dient als Auslagerungsbereich</translation>
+    </message>
+    <message id="ui_use_held">
+        <source></source>
+        <translation>%1 ist durch %2 belegt</translation>
+    </message>
+    <message id="ui_uses_more">
+        <source></source>
+        <translation>… und %1 weitere</translation>
+    </message>
 </context>
 </TS>

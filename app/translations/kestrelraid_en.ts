@@ -647,5 +647,49 @@
         <source></source>
         <translation>%1: %2. %3</translation>
     </message>
+    <message id="ui_volume_in_use">
+        <source></source>
+        <translation>The volume of the enclosure is in use, so nothing has been changed.</translation>
+    </message>
+    <message id="ui_volume_unchecked">
+        <source></source>
+        <translation>It could not be found out whether the volume of the enclosure is in use, so nothing has been changed.</translation>
+    </message>
+    <message id="ui_remedy_unmount">
+        <source></source>
+        <translation>Unmount the file systems.</translation>
+    </message>
+    <message id="ui_remedy_swapoff">
+        <source></source>
+        <translation>Switch off the swap area (swapoff).</translation>
+    </message>
+    <message id="ui_remedy_release">
+        <source></source>
+        <translation>Stop what holds it, such as encryption, LVM or software RAID.</translation>
+    </message>
+    <message id="ui_remedy_reconnect">
+        <source></source>
+        <translation>Disconnect the enclosure and connect it again.</translation>
+    </message>
+    <message id="ui_try_again">
+        <source></source>
+        <translation>Then try again.</translation>
+    </message>
+    <message id="ui_use_mounted">
+        <source></source>
+        <translation>%1 is mounted at %2</translation>
+    </message>
+    <message id="ui_use_swap">
+        <source></source>
+        <translation>%1 is used as swap</translation>
+    </message>
+    <message id="ui_use_held">
+        <source></source>
+        <translation>%1 is held by %2</translation>
+    </message>
+    <message id="ui_uses_more">
+        <source></source>
+        <translation>… and %1 more</translation>
+    </message>
 </context>
 </TS>

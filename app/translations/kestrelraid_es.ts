@@ -647,5 +647,49 @@
         <source></source>
         <translation>%1: %2. %3</translation>
     </message>
+    <message id="ui_volume_in_use">
+        <source></source>
+        <translation>El volumen de la caja está en uso, así que no se ha cambiado nada.</translation>
+    </message>
+    <message id="ui_volume_unchecked">
+        <source></source>
+        <translation>No se ha podido averiguar si el volumen de la caja está en uso, así que no se ha cambiado nada.</translation>
+    </message>
+    <message id="ui_remedy_unmount">
+        <source></source>
+        <translation>Desmonte los sistemas de archivos.</translation>
+    </message>
+    <message id="ui_remedy_swapoff">
+        <source></source>
+        <translation>Desactive el área de intercambio (swapoff).</translation>
+    </message>
+    <message id="ui_remedy_release">
+        <source></source>
+        <translation>Detenga lo que lo ocupa, como un cifrado, LVM o un RAID por software.</translation>
+    </message>
+    <message id="ui_remedy_reconnect">
+        <source></source>
+        <translation>Desconecte la caja y vuelva a conectarla.</translation>
+    </message>
+    <message id="ui_try_again">
+        <source></source>
+        <translation>Después, inténtelo de nuevo.</translation>
+    </message>
+    <message id="ui_use_mounted">
+        <source></source>
+        <translation>%1 está montado en %2</translation>
+    </message>
+    <message id="ui_use_swap">
+        <source></source>
+        <translation>%1 se usa como área de intercambio</translation>
+    </message>
+    <message id="ui_use_held">
+        <source></source>
+        <translation>%1 está ocupado por %2</translation>
+    </message>
+    <message id="ui_uses_more">
+        <source></source>
+        <translation>… y %1 más</translation>
+    </message>
 </context>
 </TS>

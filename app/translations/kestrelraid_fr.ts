@@ -647,5 +647,49 @@
         <source></source>
         <translation>%1 : %2. %3</translation>
     </message>
+    <message id="ui_volume_in_use">
+        <source></source>
+        <translation>Le volume du boîtier est utilisé : rien n’a été modifié.</translation>
+    </message>
+    <message id="ui_volume_unchecked">
+        <source></source>
+        <translation>Impossible de savoir si le volume du boîtier est utilisé : rien n’a été modifié.</translation>
+    </message>
+    <message id="ui_remedy_unmount">
+        <source></source>
+        <translation>Démontez les systèmes de fichiers.</translation>
+    </message>
+    <message id="ui_remedy_swapoff">
+        <source></source>
+        <translation>Désactivez l’espace d’échange (swapoff).</translation>
+    </message>
+    <message id="ui_remedy_release">
+        <source></source>
+        <translation>Arrêtez ce qui l’occupe, par exemple un chiffrement, LVM ou un RAID logiciel.</translation>
+    </message>
+    <message id="ui_remedy_reconnect">
+        <source></source>
+        <translation>Débranchez le boîtier et rebranchez-le.</translation>
+    </message>
+    <message id="ui_try_again">
+        <source></source>
+        <translation>Réessayez ensuite.</translation>
+    </message>
+    <message id="ui_use_mounted">
+        <source></source>
+        <translation>%1 est monté sur %2</translation>
+    </message>
+    <message id="ui_use_swap">
+        <source></source>
+        <translation>%1 sert d’espace d’échange</translation>
+    </message>
+    <message id="ui_use_held">
+        <source></source>
+        <translation>%1 est occupé par %2</translation>
+    </message>
+    <message id="ui_uses_more">
+        <source></source>
+        <translation>… et %1 autres</translation>
+    </message>
 </context>
 </TS>

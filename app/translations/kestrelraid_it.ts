@@ -647,5 +647,49 @@
         <source></source>
         <translation>%1: %2. %3</translation>
     </message>
+    <message id="ui_volume_in_use">
+        <source></source>
+        <translation>Il volume del box è in uso, quindi non è stato modificato nulla.</translation>
+    </message>
+    <message id="ui_volume_unchecked">
+        <source></source>
+        <translation>Impossibile stabilire se il volume del box è in uso, quindi non è stato modificato nulla.</translation>
+    </message>
+    <message id="ui_remedy_unmount">
+        <source></source>
+        <translation>Smontare i file system.</translation>
+    </message>
+    <message id="ui_remedy_swapoff">
+        <source></source>
+        <translation>Disattivare l’area di swap (swapoff).</translation>
+    </message>
+    <message id="ui_remedy_release">
+        <source></source>
+        <translation>Arrestare ciò che lo occupa, ad esempio crittografia, LVM o RAID software.</translation>
+    </message>
+    <message id="ui_remedy_reconnect">
+        <source></source>
+        <translation>Scollegare il box e ricollegarlo.</translation>
+    </message>
+    <message id="ui_try_again">
+        <source></source>
+        <translation>Poi riprovare.</translation>
+    </message>
+    <message id="ui_use_mounted">
+        <source></source>
+        <translation>%1 è montato in %2</translation>
+    </message>
+    <message id="ui_use_swap">
+        <source></source>
+        <translation>%1 è usato come area di swap</translation>
+    </message>
+    <message id="ui_use_held">
+        <source></source>
+        <translation>%1 è occupato da %2</translation>
+    </message>
+    <message id="ui_uses_more">
+        <source></source>
+        <translation>… e altri %1</translation>
+    </message>
 </context>
 </TS>

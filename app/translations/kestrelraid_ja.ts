@@ -647,5 +647,49 @@
         <source></source>
         <translation>%1：%2。%3</translation>
     </message>
+    <message id="ui_volume_in_use">
+        <source></source>
+        <translation>ケースのボリュームが使用中のため、何も変更していません。</translation>
+    </message>
+    <message id="ui_volume_unchecked">
+        <source></source>
+        <translation>ケースのボリュームが使用中かどうかを確認できなかったため、何も変更していません。</translation>
+    </message>
+    <message id="ui_remedy_unmount">
+        <source></source>
+        <translation>ファイルシステムのマウントを解除してください。</translation>
+    </message>
+    <message id="ui_remedy_swapoff">
+        <source></source>
+        <translation>スワップ領域を無効にしてください（swapoff）。</translation>
+    </message>
+    <message id="ui_remedy_release">
+        <source></source>
+        <translation>暗号化、LVM、ソフトウェア RAID など、ボリュームを使用しているものを停止してください。</translation>
+    </message>
+    <message id="ui_remedy_reconnect">
+        <source></source>
+        <translation>ケースをいったん取り外し、接続し直してください。</translation>
+    </message>
+    <message id="ui_try_again">
+        <source></source>
+        <translation>その後、もう一度お試しください。</translation>
+    </message>
+    <message id="ui_use_mounted">
+        <source></source>
+        <translation>%1 は %2 にマウントされています</translation>
+    </message>
+    <message id="ui_use_swap">
+        <source></source>
+        <translation>%1 はスワップとして使用されています</translation>
+    </message>
+    <message id="ui_use_held">
+        <source></source>
+        <translation>%1 は %2 が使用しています</translation>
+    </message>
+    <message id="ui_uses_more">
+        <source></source>
+        <translation>… ほか %1 件</translation>
+    </message>
 </context>
 </TS>

@@ -647,5 +647,49 @@
         <source></source>
         <translation>%1: %2. %3</translation>
     </message>
+    <message id="ui_volume_in_use">
+        <source></source>
+        <translation>인클로저의 볼륨이 사용 중이므로 아무것도 변경하지 않았습니다.</translation>
+    </message>
+    <message id="ui_volume_unchecked">
+        <source></source>
+        <translation>인클로저의 볼륨이 사용 중인지 확인할 수 없어 아무것도 변경하지 않았습니다.</translation>
+    </message>
+    <message id="ui_remedy_unmount">
+        <source></source>
+        <translation>파일 시스템의 마운트를 해제하십시오.</translation>
+    </message>
+    <message id="ui_remedy_swapoff">
+        <source></source>
+        <translation>스왑 영역을 끄십시오(swapoff).</translation>
+    </message>
+    <message id="ui_remedy_release">
+        <source></source>
+        <translation>암호화, LVM, 소프트웨어 RAID 등 볼륨을 사용하는 것을 중지하십시오.</translation>
+    </message>
+    <message id="ui_remedy_reconnect">
+        <source></source>
+        <translation>인클로저를 분리했다가 다시 연결하십시오.</translation>
+    </message>
+    <message id="ui_try_again">
+        <source></source>
+        <translation>그런 다음 다시 시도하십시오.</translation>
+    </message>
+    <message id="ui_use_mounted">
+        <source></source>
+        <translation>%1: %2에 마운트됨</translation>
+    </message>
+    <message id="ui_use_swap">
+        <source></source>
+        <translation>%1: 스왑으로 사용 중</translation>
+    </message>
+    <message id="ui_use_held">
+        <source></source>
+        <translation>%1: %2에서 사용 중</translation>
+    </message>
+    <message id="ui_uses_more">
+        <source></source>
+        <translation>… 외 %1개</translation>
+    </message>
 </context>
 </TS>

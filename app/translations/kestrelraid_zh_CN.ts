@@ -647,5 +647,49 @@
         <source></source>
         <translation>%1：%2。%3</translation>
     </message>
+    <message id="ui_volume_in_use">
+        <source></source>
+        <translation>硬盘盒的卷正在使用中，因此未作任何更改。</translation>
+    </message>
+    <message id="ui_volume_unchecked">
+        <source></source>
+        <translation>无法确定硬盘盒的卷是否正在使用，因此未作任何更改。</translation>
+    </message>
+    <message id="ui_remedy_unmount">
+        <source></source>
+        <translation>请卸载文件系统。</translation>
+    </message>
+    <message id="ui_remedy_swapoff">
+        <source></source>
+        <translation>请停用交换区（swapoff）。</translation>
+    </message>
+    <message id="ui_remedy_release">
+        <source></source>
+        <translation>请停止占用它的加密、LVM 或软件 RAID 等。</translation>
+    </message>
+    <message id="ui_remedy_reconnect">
+        <source></source>
+        <translation>请断开硬盘盒，再重新连接。</translation>
+    </message>
+    <message id="ui_try_again">
+        <source></source>
+        <translation>然后重试。</translation>
+    </message>
+    <message id="ui_use_mounted">
+        <source></source>
+        <translation>%1 已挂载于 %2</translation>
+    </message>
+    <message id="ui_use_swap">
+        <source></source>
+        <translation>%1 用作交换区</translation>
+    </message>
+    <message id="ui_use_held">
+        <source></source>
+        <translation>%1 被 %2 占用</translation>
+    </message>
+    <message id="ui_uses_more">
+        <source></source>
+        <translation>… 另有 %1 项</translation>
+    </message>
 </context>
 </TS>

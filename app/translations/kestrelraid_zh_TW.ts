@@ -647,5 +647,49 @@
         <source></source>
         <translation>%1：%2。%3</translation>
     </message>
+    <message id="ui_volume_in_use">
+        <source></source>
+        <translation>外接盒的磁碟區正在使用中，因此未做任何變更。</translation>
+    </message>
+    <message id="ui_volume_unchecked">
+        <source></source>
+        <translation>無法確認外接盒的磁碟區是否正在使用，因此未做任何變更。</translation>
+    </message>
+    <message id="ui_remedy_unmount">
+        <source></source>
+        <translation>請卸載檔案系統。</translation>
+    </message>
+    <message id="ui_remedy_swapoff">
+        <source></source>
+        <translation>請停用置換空間（swapoff）。</translation>
+    </message>
+    <message id="ui_remedy_release">
+        <source></source>
+        <translation>請停止佔用它的加密、LVM 或軟體 RAID 等。</translation>
+    </message>
+    <message id="ui_remedy_reconnect">
+        <source></source>
+        <translation>請拔除外接盒，再重新連接。</translation>
+    </message>
+    <message id="ui_try_again">
+        <source></source>
+        <translation>然後再試一次。</translation>
+    </message>
+    <message id="ui_use_mounted">
+        <source></source>
+        <translation>%1 已掛載於 %2</translation>
+    </message>
+    <message id="ui_use_swap">
+        <source></source>
+        <translation>%1 用作置換空間</translation>
+    </message>
+    <message id="ui_use_held">
+        <source></source>
+        <translation>%1 由 %2 佔用</translation>
+    </message>
+    <message id="ui_uses_more">
+        <source></source>
+        <translation>… 另有 %1 項</translation>
+    </message>
 </context>
 </TS>

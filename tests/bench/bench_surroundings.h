@@ -2,8 +2,11 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <string>
+#include <vector>
 
+#include "device/volume_uses.h"
 #include "model/device_tree.h"
 #include "model/services.h"
 #include "model/window.h"
@@ -27,6 +30,11 @@ public:
 class no_log final : public console_log {
 public:
     void line(const std::string& /*text*/) override {}
+};
+
+class no_volumes final : public volume_uses {
+public:
+    std::vector<volume_use> of(std::uint32_t /*device*/) override { return {}; }
 };
 
 class keys_only final : public text_lookup {

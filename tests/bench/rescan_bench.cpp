@@ -24,12 +24,13 @@ no_threads threads;
 no_log console;
 keys_only texts;
 exit_gate way_out;
+no_volumes volumes;
 no_window view;
 
 } // namespace
 
 krtool j(std::make_unique<no_tree>(), {library, desk.registry(), desk.registry(), counted, wall,
-                                       threads, console, texts, way_out});
+                                       threads, console, texts, way_out, volumes});
 window* ctrller = &view;
 
 // Beside the names, the list's own pause.

@@ -25,6 +25,7 @@ protected:
     scripted_clock& clock = world().clock;
     scripted_threads& threads = world().threads;
     table_lookup& texts = world().texts;
+    scripted_volumes& volumes = world().volumes;
     recording_window& view = world().view;
 
     void SetUp() override;

@@ -72,7 +72,7 @@ void reset_tool() {
 } // namespace
 
 services model_world::all() {
-    return {library, registry, hotplug, pause, clock, threads, console, texts, exit};
+    return {library, registry, hotplug, pause, clock, threads, console, texts, exit, volumes};
 }
 
 void model_world::note_end(int status) {
@@ -93,6 +93,7 @@ void model_world::reset() {
     pause.reset();
     clock.set(scripted_clock::start);
     texts.reset();
+    volumes.reset();
     view.reset();
     // Once it has let a process go, a gate stays open: the next test gets a new one.
     std::destroy_at(&exit);

@@ -14,6 +14,7 @@
 #include "tests/support/scripted_pauses.h"
 #include "tests/support/scripted_registry.h"
 #include "tests/support/scripted_threads.h"
+#include "tests/support/scripted_volumes.h"
 #include "tests/support/table_lookup.h"
 
 // `j` and `ctrller` are defined beside it and use these parts; all write into one log.
@@ -28,6 +29,7 @@ struct model_world {
     recording_log console{log};
     table_lookup texts;
     exit_gate exit{[this](int status) { note_end(status); }};
+    scripted_volumes volumes;
     recording_window view{log};
 
     services all();

@@ -42,7 +42,7 @@ protected:
     panel_request question(const char* message, array_change what, int mode) {
         const std::optional<chip_snapshot> current = j.current_chip();
         const change_plan plan =
-            plan_change(what, mode, &current->chip, "Kestrel Duo (S/N: ABC123)");
+            plan_change(what, mode, &current->chip, "Kestrel Duo (S/N: ABC123)", {});
         return {panel_kind::warning,
                 translated("warning"),
                 translated(message),

@@ -45,7 +45,7 @@ protected:
     void save_panel(const QString& name, array_change what, int mode, const char* question) {
         const std::optional<chip_snapshot> current = j.current_chip();
         const change_plan plan =
-            plan_change(what, mode, &current->chip, "Kestrel Duo (S/N: ABC123)");
+            plan_change(what, mode, &current->chip, "Kestrel Duo (S/N: ABC123)", {});
         ask(name, {panel_kind::warning,
                    translated("warning"),
                    translated(question),

@@ -42,7 +42,7 @@ krchip sample_chip() {
 }
 
 std::string sample_text(const krchip& chip) {
-    const change_plan plan = plan_change(array_change::clear_array, 0, &chip, "Desk (S/N: 1)");
+    const change_plan plan = plan_change(array_change::clear_array, 0, &chip, "Desk (S/N: 1)", {});
     return safety_copy_text(plan, chip, some_time);
 }
 
@@ -102,7 +102,7 @@ TEST(safety_copy_text, HostileNamesStayOnTheirLine) {
 
 TEST(safety_copy_text, TimeThatHasNoFormIsSaidToBeUnknown) {
     const krchip chip = sample_chip();
-    const change_plan plan = plan_change(array_change::create, mode_raid1, &chip, "");
+    const change_plan plan = plan_change(array_change::create, mode_raid1, &chip, "", {});
     const std::string text = safety_copy_text(plan, chip, std::numeric_limits<std::time_t>::max());
     EXPECT_THAT(text, HasSubstr("Made: unknown\nBefore: create an array\n"));
 }

@@ -40,7 +40,7 @@ krchip chip_of(int mode) {
 }
 
 change_plan plan_of(array_change what, const krchip& chip, int mode = 2) {
-    return plan_change(what, mode, &chip, "Enclosure");
+    return plan_change(what, mode, &chip, "Enclosure", {});
 }
 
 fates fates_of(array_change what, const krchip& chip, int mode = 2) {
@@ -61,7 +61,7 @@ planned_disk target_of(std::uint64_t capacity, std::uint64_t needed) {
 std::vector<array_change> upset(const krchip& before, const krchip& after) {
     std::vector<array_change> result;
     for (const array_change what : every_change) {
-        if (!still_holds(plan_of(what, before), &after)) {
+        if (!still_holds(plan_of(what, before), &after, {})) {
             result.push_back(what);
         }
     }
@@ -159,7 +159,7 @@ TEST(ChangePlan, LeavesAnAbsentDiskUntouchedAndWithoutAName) {
 
 TEST(ChangePlan, WithoutAChipChangesNothing) {
     for (const array_change what : every_change) {
-        const change_plan plan = plan_change(what, 2, nullptr, "Enclosure");
+        const change_plan plan = plan_change(what, 2, nullptr, "Enclosure", {});
         EXPECT_FALSE(plan.has_chip);
         EXPECT_EQ(plan.what, what);
         EXPECT_EQ(plan.enclosure, "Enclosure");
@@ -254,7 +254,7 @@ TEST(ConfirmedPlan, HoldsForTheSameChipAndForACopyOfIt) {
 
 TEST(ConfirmedPlan, ToCreateWhatIsNoArrayHoldsForTheSameChip) {
     const krchip chip = chip_of(1);
-    EXPECT_TRUE(still_holds(plan_of(array_change::create, chip, 0), &chip));
+    EXPECT_TRUE(still_holds(plan_of(array_change::create, chip, 0), &chip, {}));
 }
 
 TEST(ConfirmedPlan, DoesNotHoldForAnotherController) {
@@ -343,9 +343,38 @@ TEST(ConfirmedPlan, HoldsWhenOnlyFlagsAndTimeStampsAndHandlesChange) {
 TEST(ConfirmedPlan, DoesNotHoldWithoutAChipUnlessThereWasNone) {
     const krchip chip = chip_of(2);
     for (const array_change what : every_change) {
-        EXPECT_FALSE(still_holds(plan_of(what, chip), nullptr));
-        const change_plan for_none = plan_change(what, 2, nullptr, "Enclosure");
-        EXPECT_FALSE(still_holds(for_none, &chip));
-        EXPECT_TRUE(still_holds(for_none, nullptr));
+        EXPECT_FALSE(still_holds(plan_of(what, chip), nullptr, {}));
+        const change_plan for_none = plan_change(what, 2, nullptr, "Enclosure", {});
+        EXPECT_FALSE(still_holds(for_none, &chip, {}));
+        EXPECT_TRUE(still_holds(for_none, nullptr, {}));
+    }
+}
+
+TEST(ChangePlanUses, AreThoseOfTheChipAndOfNoChipNone) {
+    const krchip chip = chip_of(2);
+    const std::vector<volume_use> uses = {{volume_use_kind::mounted, "sdb1", "/media/a"}};
+    for (const array_change what : every_change) {
+        EXPECT_EQ(plan_change(what, 2, &chip, "Enclosure", uses).uses, uses);
+        EXPECT_EQ(plan_change(what, 2, nullptr, "Enclosure", uses).uses.size(), 0U);
+    }
+}
+
+TEST(ConfirmedPlan, DoesNotHoldOnceTheVolumeIsUsedOtherwise) {
+    const krchip chip = chip_of(2);
+    const volume_use use{volume_use_kind::mounted, "sdb1", "/media/a"};
+    volume_use elsewhere = use;
+    elsewhere.where = "/media/b";
+    volume_use other_device = use;
+    other_device.device = "sdb2";
+    volume_use other_kind = use;
+    other_kind.kind = volume_use_kind::held;
+    for (const array_change what : every_change) {
+        EXPECT_FALSE(still_holds(plan_of(what, chip), &chip, {use}));
+        const change_plan used = plan_change(what, 2, &chip, "Enclosure", {use});
+        EXPECT_TRUE(still_holds(used, &chip, {use}));
+        EXPECT_FALSE(still_holds(used, &chip, {}));
+        for (const volume_use& now : {elsewhere, other_device, other_kind}) {
+            EXPECT_FALSE(still_holds(used, &chip, {now}));
+        }
     }
 }

@@ -1,0 +1,34 @@
+// The block devices of sysfs, and how they lie on each other.
+#pragma once
+
+#include <string>
+#include <vector>
+
+struct block_device {
+    std::string folder; // in sysfs, without links on the way
+    std::string name;   // the kernel's, as "sdb1" or "dm-0"
+    std::string shown;  // as people know it: that of /dev/mapper where there is one
+    std::string number; // "8:17"
+};
+
+// A look at all block devices at the time it is made. One thread at a time. What cannot be read is
+// missing, and noted.
+class block_devices {
+public:
+    explicit block_devices(const std::string& sysfs);
+
+    // Disks and partitions whose folder is `folder` or lies below it, by name.
+    std::vector<block_device> below(const std::string& folder) const;
+    // The devices that other drivers have put on this one, by name.
+    std::vector<block_device> holders_of(const block_device& held);
+
+    // False once anything could not be read.
+    bool complete() const { return complete_; }
+
+private:
+    std::vector<std::string> names_in(const std::string& folder);
+    void add(const std::string& name, const std::string& link);
+
+    std::vector<block_device> all_; // by name
+    bool complete_ = true;
+};
