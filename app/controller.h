@@ -244,7 +244,6 @@ private:
                       const std::function<bool(std::int32_t chip)>& operation);
     clearance may_begin(const change_plan& plan);
     static clearance compare(const change_plan& plan);
-    void put_refusal(panel_request& request, const std::vector<volume_use>& uses) const;
     void refuse(const std::vector<volume_use>& uses);
     bool goes_on_without_copy(const std::string& trouble);
     void rebuild(array_change direction, const char* question);

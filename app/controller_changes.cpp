@@ -141,19 +141,11 @@ bool controller::granted(const char* question, const change_plan& plan) {
     }
     const bool forbidden = !plan.uses.empty();
     if (forbidden) {
-        put_refusal(request, plan.uses);
+        refuse_instead(request, plan.uses, j.with.texts);
     }
     const bool yes = is_yes(panels_.ask(request)) && !forbidden;
     obey_remembered_exit();
     return yes;
-}
-
-// In place of a question: nothing is left to be granted.
-void controller::put_refusal(panel_request& request, const std::vector<volume_use>& uses) const {
-    const use_view refusal = describe(uses, j.with.texts);
-    request.message = refusal.message;
-    request.lines = refusal.lines;
-    request.buttons = {s_ok};
 }
 
 controller::outcome controller::carry_out(const change_plan& plan,
@@ -221,8 +213,8 @@ void controller::refuse(const std::vector<volume_use>& uses) {
     if (uses.empty()) {
         return;
     }
-    panel_request request{panel_kind::warning, s_warning, {}, {}};
-    put_refusal(request, uses);
+    panel_request request{panel_kind::warning, s_warning, {}, {s_ok}};
+    refuse_instead(request, uses, j.with.texts);
     // The list may name another bridge than this is about.
     notify_and_ask(request, request.message, urgency::critical);
     obey_remembered_exit();

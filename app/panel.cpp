@@ -24,6 +24,7 @@ constexpr int title_height = 26;
 constexpr int line_height = 18;
 constexpr int least_distance = 18; // below the texts
 constexpr int plan_distance = 24;  // below the cards
+constexpr int plan_after_lines = 8;
 
 const char* icon_of(panel_kind kind) {
     switch (kind) {
@@ -81,10 +82,10 @@ QLayout* panel_dialog::make_head(const panel_request& request) {
     texts->addWidget(one_line_text(one_line(request.title), title_height, "title"));
     texts->addWidget(wrapped_text(plain_lines(request.message), "message"));
     for (const std::string& line : request.lines) {
-        texts->addWidget(one_line_text(one_line(line), line_height, "value"));
+        texts->addWidget(one_line_text(one_line(line), line_height, ""));
     }
     if (request.plan) {
-        texts->addSpacing(2);
+        texts->addSpacing(request.lines.empty() ? 2 : plan_after_lines);
         texts->addWidget(wrapped_text(one_line(request.plan->heading), "strong"));
     }
     texts->addStretch();

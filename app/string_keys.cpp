@@ -51,7 +51,7 @@ constexpr std::array<std::string_view, 43> designed = {
     "device",
 };
 
-constexpr std::array<std::string_view, 129> of_the_window = {
+constexpr std::array<std::string_view, 130> of_the_window = {
     "ui_controllers",
     "ui_system_information",
     "ui_devices",
@@ -181,6 +181,7 @@ constexpr std::array<std::string_view, 129> of_the_window = {
     "ui_use_swap",
     "ui_use_held",
     "ui_uses_more",
+    "ui_plan_refused",
 };
 
 } // namespace

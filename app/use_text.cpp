@@ -1,8 +1,10 @@
 #include "app/use_text.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "app/display_text.h"
+#include "app/panel.h"
 #include "app/plain_text.h"
 
 namespace {
@@ -79,4 +81,18 @@ use_view describe(const std::vector<volume_use>& uses, const text_lookup& texts)
         view.lines.push_back(filled(texts.text("ui_uses_more"), {std::to_string(known - shown)}));
     }
     return view;
+}
+
+void refuse_instead(panel_request& question, const std::vector<volume_use>& uses,
+                    const text_lookup& texts) {
+    use_view refusal = describe(uses, texts);
+    question.message = std::move(refusal.message);
+    question.lines = std::move(refusal.lines);
+    question.buttons.resize(1);
+    if (question.plan) {
+        question.plan->heading = filled(texts.text("ui_plan_refused"), {question.plan->heading});
+        for (plan_card& card : question.plan->cards) {
+            card.warnings.clear();
+        }
+    }
 }

@@ -691,5 +691,9 @@
         <source></source>
         <translation>… und %1 weitere</translation>
     </message>
+    <message id="ui_plan_refused">
+        <source></source>
+        <translation>Nicht ausgeführt: %1</translation>
+    </message>
 </context>
 </TS>

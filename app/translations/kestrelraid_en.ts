@@ -691,5 +691,9 @@
         <source></source>
         <translation>… and %1 more</translation>
     </message>
+    <message id="ui_plan_refused">
+        <source></source>
+        <translation>Not done: %1</translation>
+    </message>
 </context>
 </TS>

@@ -691,5 +691,9 @@
         <source></source>
         <translation>… y %1 más</translation>
     </message>
+    <message id="ui_plan_refused">
+        <source></source>
+        <translation>No se ha hecho: %1</translation>
+    </message>
 </context>
 </TS>

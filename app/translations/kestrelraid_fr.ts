@@ -691,5 +691,9 @@
         <source></source>
         <translation>… et %1 autres</translation>
     </message>
+    <message id="ui_plan_refused">
+        <source></source>
+        <translation>Non effectué : %1</translation>
+    </message>
 </context>
 </TS>

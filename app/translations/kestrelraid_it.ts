@@ -691,5 +691,9 @@
         <source></source>
         <translation>… e altri %1</translation>
     </message>
+    <message id="ui_plan_refused">
+        <source></source>
+        <translation>Non eseguito: %1</translation>
+    </message>
 </context>
 </TS>

@@ -691,5 +691,9 @@
         <source></source>
         <translation>… ほか %1 件</translation>
     </message>
+    <message id="ui_plan_refused">
+        <source></source>
+        <translation>実行していません：%1</translation>
+    </message>
 </context>
 </TS>

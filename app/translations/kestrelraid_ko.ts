@@ -691,5 +691,9 @@
         <source></source>
         <translation>… 외 %1개</translation>
     </message>
+    <message id="ui_plan_refused">
+        <source></source>
+        <translation>실행하지 않음: %1</translation>
+    </message>
 </context>
 </TS>

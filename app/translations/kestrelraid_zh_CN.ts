@@ -691,5 +691,9 @@
         <source></source>
         <translation>… 另有 %1 项</translation>
     </message>
+    <message id="ui_plan_refused">
+        <source></source>
+        <translation>未执行：%1</translation>
+    </message>
 </context>
 </TS>

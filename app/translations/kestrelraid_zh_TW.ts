@@ -691,5 +691,9 @@
         <source></source>
         <translation>… 另有 %1 項</translation>
     </message>
+    <message id="ui_plan_refused">
+        <source></source>
+        <translation>未執行：%1</translation>
+    </message>
 </context>
 </TS>

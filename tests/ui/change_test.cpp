@@ -472,12 +472,13 @@ TEST_F(in_use, VolumeKeepsEveryChangeFromBeingMadeWhateverIsAnswered) {
 TEST_F(in_use, VolumeIsNamedBesideThePlan) {
     texts.set("ui_use_mounted", "%1 at %2");
     texts.set("ui_use_held", "%1 by %2");
+    texts.set("ui_plan_refused", "Not done: %1");
     volumes.use(device, {{volume_use_kind::mounted, "luks-home", "/home"},
                          {volume_use_kind::held, "sdb1", "luks-home"}});
     press(window->cleardisk1button);
     EXPECT_THAT(panels.last.lines, ElementsAre("luks-home at /home", "sdb1 by luks-home"));
     ASSERT_TRUE(panels.last.plan.has_value());
-    EXPECT_EQ(panels.last.plan->heading, "ui_plan_wipe_disk_2");
+    EXPECT_EQ(panels.last.plan->heading, "Not done: ui_plan_wipe_disk_2");
     EXPECT_EQ(panels.last.plan->cards[1].fate, "ui_plan_all_lost");
 }
 

@@ -9,6 +9,7 @@
 #include "app/krview.h"
 #include "app/string_table.h"
 #include "app/text_field.h"
+#include "app/use_text.h"
 #include "tests/ui/spoken_window.h"
 
 namespace {
@@ -70,6 +71,23 @@ TEST_P(every_text, FitsInEveryQuestion) {
     for (const int mode : {mode_raid0, mode_raid1, mode_span}) {
         EXPECT_THAT(misfits_of_panel(question("all_data_lost", array_change::create, mode)),
                     IsEmpty());
+    }
+}
+
+// As full as it gets, but for names of any length, which are cut.
+TEST_P(every_text, FitsInEveryRefusal) {
+    show_state("diverged");
+    std::vector<volume_use> uses = {{volume_use_kind::mounted, "sdb1", "/media/anna/Photos"},
+                                    {volume_use_kind::swap, "sdb2", {}},
+                                    {volume_use_kind::held, "sdb3", "luks-2f1c8a44"}};
+    uses.resize(1000, uses.back());
+    uses.push_back({volume_use_kind::unchecked, {}, {}});
+    for (const std::vector<volume_use>& some : {uses, {uses.back()}}) {
+        panel_request request = question("disk1_to_disk2", array_change::rebuild0to1, 0);
+        refuse_instead(request, some, texts);
+        EXPECT_THAT(misfits_of_panel(request), IsEmpty());
+        request.plan.reset();
+        EXPECT_THAT(misfits_of_panel(request), IsEmpty());
     }
 }
 

@@ -6,6 +6,7 @@
 #include "app/guide.h"
 #include "app/krview.h"
 #include "app/string_table.h"
+#include "app/use_text.h"
 #include "tests/ui/spoken_window.h"
 
 namespace {
@@ -167,6 +168,50 @@ TEST_F(pictures, ConfirmACopyWithoutItsTarget) {
         chip.disks[0] = krdisk();
     });
     save_panel(QStringLiteral("panel-copy-absent"), array_change::rebuild1to0, 0, "disk2_to_disk1");
+}
+
+class refusals : public pictures {
+protected:
+    // As the window refuses a change, or, without one, a restart.
+    void save_refusal(const QString& name, std::optional<array_change> what,
+                      const std::vector<volume_use>& uses) {
+        panel_request request{panel_kind::warning, translated("warning"), {}, {translated("ok")}};
+        if (what) {
+            const std::optional<chip_snapshot> current = j.current_chip();
+            request.plan =
+                describe(plan_change(*what, 0, &current->chip, "Kestrel Duo (S/N: ABC123)", uses),
+                         true, texts);
+        }
+        refuse_instead(request, uses, texts);
+        ask(name, request);
+    }
+
+    const volume_use photos{volume_use_kind::mounted, "sdb1", "/media/anna/Photos"};
+};
+
+TEST_F(refusals, OfACopyWhileAPartitionIsMounted) {
+    show_chip([this](krchip& chip) { disks(chip, 2, 2); });
+    save_refusal(QStringLiteral("panel-refused"), array_change::rebuild0to1, {photos});
+}
+
+TEST_F(refusals, OfADeletionOfAVolumeWithManyUses) {
+    show_chip([this](krchip& chip) { disks(chip, 1, 1); });
+    std::vector<volume_use> uses = {
+        {volume_use_kind::mounted, "sdb1", "/media/anna/" + std::string(60, 'W') + "/Photos"},
+        {volume_use_kind::swap, "sdb2", {}}};
+    uses.resize(7, {volume_use_kind::held, "sdb3", "luks-2f1c8a44-8d0e-4a53-9d0b-5d2b1f6d9c11"});
+    save_refusal(QStringLiteral("panel-refused-many"), array_change::clear_array, uses);
+}
+
+TEST_F(refusals, OfARestart) {
+    show_chip([this](krchip& chip) { disks(chip, 2, 2); });
+    save_refusal(QStringLiteral("panel-refused-restart"), std::nullopt, {photos});
+}
+
+TEST_F(refusals, OfAVolumeThatCannotBeLookedAt) {
+    show_chip([this](krchip& chip) { disks(chip, 2, 2); });
+    save_refusal(QStringLiteral("panel-refused-unchecked"), array_change::clear_disk0,
+                 {{volume_use_kind::unchecked, {}, {}}});
 }
 
 TEST_F(pictures, CopyFailure) {

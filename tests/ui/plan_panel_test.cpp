@@ -12,6 +12,7 @@
 #include "app/panel.h"
 #include "app/plain_text.h"
 #include "app/string_table.h"
+#include "app/use_text.h"
 
 namespace {
 
@@ -168,6 +169,33 @@ TEST_F(plan_panel, ShowsHostileTextsAsTheyAre) {
     });
 }
 
+TEST_F(plan_panel, ShowsLinesBetweenTheMessageAndThePlan) {
+    request.lines = {"sdb1 is mounted", "<b>sdb2</b>\n\x1B[0m"};
+    open([this] {
+        QLabel* first = label(QStringLiteral("sdb1 is mounted"));
+        QLabel* second = label(QStringLiteral("<b>sdb2</b>  [0m"));
+        ASSERT_TRUE(first != nullptr && second != nullptr);
+        EXPECT_EQ(second->textFormat(), Qt::PlainText);
+        EXPECT_GT(place(first).top(), place(label(QLatin1String(question))).bottom());
+        EXPECT_GT(place(second).top(), place(first).bottom());
+        EXPECT_LT(place(second).bottom(),
+                  place(label(QStringLiteral("Copies Disk 1 onto Disk 2."))).top());
+    });
+}
+
+TEST_F(plan_panel, HasOnlyItsClosingButtonWhenNothingIsAsked) {
+    request.buttons = {"OK"};
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        EXPECT_EQ(open([this, key] {
+                      EXPECT_EQ(part("panel_second_button"), nullptr);
+                      EXPECT_EQ(part("panel_default_button")->property("kind").toString(),
+                                QString());
+                      press(key);
+                  }),
+                  panel_default);
+    }
+}
+
 TEST_F(plan_panel, CutsLongNamesWithinTheirPlaceAndTellsThemInTheTip) {
     const QString wide = QStringLiteral("<b>") + QString(40, QLatin1Char('W'));
     view.cards[0].model = view.cards[1].serial = view.enclosure = wide.toStdString();
@@ -197,6 +225,14 @@ TEST_F(plan_panel, IsReadAsItsQuestionAndOneLinePerDisk) {
         EXPECT_EQ(heard("plan_card_2"),
                   QStringLiteral("Disk 2: MODEL B, S/N 2, 4.00 TB: is overwritten. "
                                  "Too small. Odd sectors."));
+    });
+}
+
+TEST_F(plan_panel, IsReadWithItsLines) {
+    request.lines = {"sdb1 is mounted", "sdb2 is\nswap"};
+    open([this] {
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(shown())->text(QAccessible::Description),
+                  QLatin1String(question) + QStringLiteral(" sdb1 is mounted; sdb2 is swap"));
     });
 }
 
@@ -314,6 +350,21 @@ TEST_P(plan_panel_at_its_fullest, CutsNothing) {
         }
         for (const char* name : {"panel_default_button", "panel_second_button"}) {
             EXPECT_GE(part(name)->width(), part(name)->sizeHint().width());
+        }
+    });
+}
+
+TEST_P(plan_panel_at_its_fullest, StaysInTheWindowAndCutsNothingWhenItRefuses) {
+    std::vector<volume_use> uses(9, {volume_use_kind::mounted, "sdb1", std::string(4000, 'W')});
+    uses[1].kind = volume_use_kind::swap;
+    uses[2].kind = volume_use_kind::held;
+    uses.push_back({volume_use_kind::unchecked, {}, {}});
+    refuse_instead(request, uses, table());
+    open([this] {
+        EXPECT_TRUE(window.rect().contains(shown()->geometry()));
+        for (const QLabel* one : labels()) {
+            EXPECT_TRUE(whole(*one)) << one->text().toStdString();
+            EXPECT_TRUE(shown()->rect().contains(place(one))) << one->text().toStdString();
         }
     });
 }

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "app/panel.h"
 #include "tests/support/table_lookup.h"
 
 namespace {
@@ -74,6 +75,30 @@ TEST_F(use_text, PutsNoBlankAfterAFullStopThatBringsItsOwn) {
     texts.set("ui_volume_in_use", "使用中。");
     texts.set("ui_remedy_unmount", "解除。");
     EXPECT_EQ(message_of({mounted}), "使用中。解除。ui_try_again");
+}
+
+TEST_F(use_text, MakesARefusalOfAQuestion) {
+    panel_request request{panel_kind::warning, "W", "Delete?", {"OK", "Cancel"}};
+    refuse_instead(request, {mounted}, texts);
+    EXPECT_EQ(request.title, "W");
+    EXPECT_EQ(request.message, message_of({mounted}));
+    EXPECT_THAT(request.lines, ElementsAre("sdb1 at /media/a"));
+    EXPECT_THAT(request.buttons, ElementsAre("OK"));
+    EXPECT_FALSE(request.plan.has_value());
+}
+
+TEST_F(use_text, SaysOfThePlanThatItIsNotDoneAndLeavesItsWarningsOut) {
+    panel_request request{panel_kind::warning, "W", "Delete?", {"OK", "Cancel"}};
+    texts.set("ui_plan_refused", "Not done: %1");
+    request.plan.emplace().heading = "Deletes the array.";
+    request.plan->cards[0].fate = "is lost";
+    request.plan->cards[0].warnings = {"Too small."};
+    request.plan->cards[1].warnings = {"Odd sectors."};
+    refuse_instead(request, {mounted}, texts);
+    EXPECT_EQ(request.plan->heading, "Not done: Deletes the array.");
+    EXPECT_EQ(request.plan->cards[0].fate, "is lost");
+    EXPECT_THAT(request.plan->cards[0].warnings, IsEmpty());
+    EXPECT_THAT(request.plan->cards[1].warnings, IsEmpty());
 }
 
 } // namespace
