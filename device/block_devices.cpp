@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -12,8 +13,10 @@ namespace {
 namespace fs = std::filesystem;
 
 // "sdb2" before "sdb11".
-bool by_name(const std::string& one, const std::string& other) {
-    return std::pair(one.size(), one) < std::pair(other.size(), other);
+bool by_name(const fs::path& one, const fs::path& other) {
+    const std::string name = one.filename().string();
+    const std::string other_name = other.filename().string();
+    return std::pair(name.size(), name) < std::pair(other_name.size(), other_name);
 }
 
 bool lies_in(const std::string& folder, const std::string& outer) {
@@ -22,26 +25,32 @@ bool lies_in(const std::string& folder, const std::string& outer) {
 
 } // namespace
 
-block_devices::block_devices(const std::string& sysfs) {
-    const std::string folder = sysfs + "/class/block";
-    for (const std::string& name : names_in(folder)) {
-        add(name, folder + "/" + name);
+block_devices::block_devices(std::string sysfs) : sysfs_(std::move(sysfs)) {
+    for (const fs::path& link : entries_of(sysfs_ + "/class/block")) {
+        add(link);
     }
 }
 
-std::vector<std::string> block_devices::names_in(const std::string& folder) {
-    std::vector<std::string> names;
+std::vector<fs::path> block_devices::entries_of(const fs::path& folder) {
+    std::vector<fs::path> entries;
     std::error_code trouble;
     for (fs::directory_iterator entry(folder, trouble), end; !trouble && entry != end;
          entry.increment(trouble)) {
-        names.push_back(entry->path().filename().string());
+        entries.push_back(entry->path());
     }
     complete_ = complete_ && !trouble;
-    std::sort(names.begin(), names.end(), by_name);
-    return names;
+    std::sort(entries.begin(), entries.end(), by_name);
+    return entries;
 }
 
-void block_devices::add(const std::string& name, const std::string& link) {
+bool block_devices::exists(const fs::path& path) {
+    std::error_code trouble;
+    const bool found = fs::exists(path, trouble);
+    complete_ = complete_ && !trouble;
+    return found;
+}
+
+void block_devices::add(const fs::path& link) {
     std::error_code trouble;
     const std::string folder = fs::canonical(link, trouble).string();
     if (trouble) {
@@ -49,6 +58,7 @@ void block_devices::add(const std::string& name, const std::string& link) {
         complete_ = complete_ && trouble == std::errc::no_such_file_or_directory;
         return;
     }
+    const std::string name = link.filename().string();
     const std::string mapped = sysfs_attribute(folder + "/dm", "name");
     all_.push_back({folder, name, mapped.empty() ? name : mapped, sysfs_attribute(folder, "dev")});
 }
@@ -60,11 +70,16 @@ std::vector<block_device> block_devices::below(const std::string& folder) const 
     return found;
 }
 
+std::vector<block_device>::const_iterator block_devices::find(const fs::path& link) const {
+    const std::string name = link.filename().string();
+    return std::find_if(all_.begin(), all_.end(),
+                        [&name](const block_device& one) { return one.name == name; });
+}
+
 std::vector<block_device> block_devices::holders_of(const block_device& held) {
     std::vector<block_device> found;
-    for (const std::string& name : names_in(held.folder + "/holders")) {
-        const auto holder = std::find_if(all_.begin(), all_.end(),
-                                         [&name](const auto& one) { return one.name == name; });
+    for (const fs::path& link : entries_of(held.folder + "/holders")) {
+        const auto holder = find(link);
         if (holder != all_.end()) {
             found.push_back(*holder);
         } else {
@@ -72,4 +87,24 @@ std::vector<block_device> block_devices::holders_of(const block_device& held) {
         }
     }
     return found;
+}
+
+std::vector<block_device> block_devices::pool_of(const block_device& member) {
+    std::vector<block_device> pool = {member};
+    const std::string file_systems = sysfs_ + "/fs/btrfs";
+    if (!exists(file_systems)) {
+        return pool;
+    }
+    for (const fs::path& file_system : entries_of(file_systems)) {
+        const fs::path members = file_system / "devices";
+        if (!exists(members / member.name)) {
+            continue;
+        }
+        for (const fs::path& link : entries_of(members)) {
+            if (const auto other = find(link); other != all_.end()) {
+                pool.push_back(*other);
+            }
+        }
+    }
+    return pool;
 }

@@ -1,6 +1,7 @@
 // The block devices of sysfs, and how they lie on each other.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -15,20 +16,27 @@ struct block_device {
 // missing, and noted.
 class block_devices {
 public:
-    explicit block_devices(const std::string& sysfs);
+    explicit block_devices(std::string sysfs);
 
     // Disks and partitions whose folder is `folder` or lies below it, by name.
     std::vector<block_device> below(const std::string& folder) const;
     // The devices that other drivers have put on this one, by name.
     std::vector<block_device> holders_of(const block_device& held);
 
+    // The device itself, and those that a mounted btrfs lies on together with it: the table of
+    // mounts names only one of them.
+    std::vector<block_device> pool_of(const block_device& member);
+
     // False once anything could not be read.
     bool complete() const { return complete_; }
 
 private:
-    std::vector<std::string> names_in(const std::string& folder);
-    void add(const std::string& name, const std::string& link);
+    std::vector<std::filesystem::path> entries_of(const std::filesystem::path& folder); // by name
+    bool exists(const std::filesystem::path& path);
+    void add(const std::filesystem::path& link);
+    std::vector<block_device>::const_iterator find(const std::filesystem::path& link) const;
 
+    const std::string sysfs_;
     std::vector<block_device> all_; // by name
     bool complete_ = true;
 };

@@ -42,9 +42,14 @@ bool is_node_of(const std::string& path, const block_device& device) {
 }
 
 // Of a file system with a number of its own, the source tells what it lies on.
-bool is_mount_of(const mount_entry& mount, const block_device& device) {
-    const bool own_number = mount.number.starts_with("0:");
-    return own_number ? is_node_of(mount.source, device) : mount.number == device.number;
+bool is_mount_of(const mount_entry& mount, const block_device& device,
+                 const std::vector<block_device>& pool) {
+    if (!mount.number.starts_with("0:")) {
+        return mount.number == device.number;
+    }
+    return std::any_of(pool.begin(), pool.end(), [&mount](const block_device& member) {
+        return is_node_of(mount.source, member);
+    });
 }
 
 // One look at what the volumes of a bridge are used for.
@@ -132,8 +137,9 @@ std::string volume_look::table(const std::string& path) {
 void volume_look::find_mounts(const std::string& mountinfo) {
     const std::vector<mount_entry> mounts = mounts_of(mountinfo);
     for (const block_device& device : taken_) {
+        const std::vector<block_device> pool = devices_.pool_of(device);
         for (const mount_entry& mount : mounts) {
-            if (is_mount_of(mount, device)) {
+            if (is_mount_of(mount, device, pool)) {
                 add({volume_use_kind::mounted, device.shown, mount.place});
             }
         }

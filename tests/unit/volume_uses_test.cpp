@@ -93,6 +93,16 @@ TEST_F(VolumeUses, OfAFileSystemWithANumberOfItsOwnAreKnownByTheSource) {
     EXPECT_THAT(uses(), ElementsAre(mounted("sdb1", "/media/btrfs")));
 }
 
+TEST_F(VolumeUses, OfAFileSystemOverSeveralDisksAreFoundWhicheverIsNamed) {
+    tree_.write("sys/fs/btrfs/features/raid1c34", "0\n");
+    tree_.write("sys/fs/btrfs/1111-aaaa/devices/sda1/dev", "");
+    tree_.write("sys/fs/btrfs/1111-aaaa/devices/sdb1/dev", "");
+    tree_.write("sys/fs/btrfs/2222-bbbb/devices/sda2/dev", "");
+    tree_.mount("0:44", "/pool", "/dev/sda1");
+    tree_.mount("0:45", "/other", "/dev/sda2");
+    EXPECT_THAT(uses(), ElementsAre(mounted("sdb1", "/pool")));
+}
+
 TEST_F(VolumeUses, NameMountPointsWithTheirBytes) {
     tree_.mount("8:17",
                 R"(/media/My\040Disk\012\033[2J)"
