@@ -166,7 +166,7 @@ controller::outcome controller::carry_out(const change_plan& plan,
 }
 
 controller::clearance controller::may_begin(const change_plan& plan) {
-    const clearance now = compare(plan);
+    clearance now = compare(plan);
     const krchip* chip = j.selected();
     if (now.end != outcome::done || chip == nullptr) {
         return now;
