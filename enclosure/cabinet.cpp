@@ -59,6 +59,12 @@ void cabinet::unplug() {
     settle_disks();
     handle_.reset();
     returns_at_.reset();
+    export_number_.reset();
+}
+
+void cabinet::begin_export(std::uint32_t number, std::uint32_t handle, moment now) {
+    export_number_ = number;
+    plug(handle, now);
 }
 
 void cabinet::begin_restart(moment now) {
@@ -83,7 +89,7 @@ std::optional<kept_copy> cabinet::lasting_copy() const {
 }
 
 std::optional<bridge> cabinet::on_the_bus() const {
-    if (!handle_) {
+    if (!handle_ || export_number_) {
         return std::nullopt;
     }
     bridge seen;

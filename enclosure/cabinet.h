@@ -45,8 +45,8 @@ struct bridge {
     bool operator==(const bridge&) const = default;
 };
 
-// Plugged in means powered and on the bus, but for the time that a restart takes. One thread at
-// a time.
+// Plugged in means powered and on the bus, but for the time that a restart takes. It may be
+// exported instead of being on the desk's own bus. One thread at a time.
 class cabinet {
 public:
     explicit cabinet(cabinet_settings settings);
@@ -58,7 +58,13 @@ public:
     // Switches on, at `now`, with a handle that no bridge ever had.
     void plug(std::uint32_t handle, moment now,
               const std::optional<kept_copy>& before = std::nullopt);
-    void unplug();
+    void unplug(); // ends an export, too
+
+    // The same with an export, until it is unplugged.
+    void begin_export(std::uint32_t number, std::uint32_t handle, moment now);
+
+    // Its number among the exported ones; nothing while it is not exported.
+    const std::optional<std::uint32_t>& export_number() const { return export_number_; }
 
     // Leaves the bus; returns_at() is when it wants to be plugged in again. The chip knows nothing
     // of what it did before.
@@ -78,7 +84,7 @@ public:
     // Its chip's copy as it may be kept; nothing while it is not on the bus.
     std::optional<kept_copy> lasting_copy() const;
 
-    // How it appears on the bus; nothing while it is not there.
+    // How it appears on the desk's own bus; nothing while it is not there.
     std::optional<bridge> on_the_bus() const;
 
     // `port` is 0 or 1; insert needs an empty bay.
@@ -102,6 +108,7 @@ private:
     std::optional<std::uint32_t> handle_;
     std::optional<moment> returns_at_;
     std::uint32_t last_handle_ = 0;
+    std::optional<std::uint32_t> export_number_;
 };
 
 } // namespace enclosure

@@ -3,6 +3,7 @@
 #include "enclosure/desk_document.h"
 #include "enclosure/problem.h"
 #include "enclosure/sizes.h"
+#include "enclosure/usbip_wire.h"
 
 #include <array>
 #include <cstdio>
@@ -127,6 +128,21 @@ void plug_in(service_client& service, const std::string& enclosure) {
 void unplug(service_client& service, const std::string& enclosure) {
     service.unplug(enclosure);
     say("unplugged '" + enclosure + "'");
+}
+
+void begin_export(service_client& service, const export_options& options) {
+    const export_place place = service.begin_export(options.enclosure, options.port);
+    const bool usual = place.port == usbip::usual_port;
+    const std::string port = std::to_string(place.port);
+    say("exported '" + options.enclosure + "' over USB/IP as " + place.busid + " on port " + port);
+    say("attach it with: sudo usbip " + (usual ? "" : "--tcp-port " + port + " ") +
+        "attach --remote 127.0.0.1 --busid " + place.busid);
+    say("after each restart of its chip it has to be attached again");
+}
+
+void end_export(service_client& service, const std::string& enclosure) {
+    service.end_export(enclosure);
+    say("ended the export of '" + enclosure + "'");
 }
 
 void warm_boot(service_client& service, const std::string& enclosure) {

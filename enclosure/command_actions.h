@@ -44,7 +44,13 @@ struct fault_options {
     std::optional<std::uint32_t> delay; // milliseconds
 };
 
-// Each makes one change and prints one line that says what it did. Throws problem.
+struct export_options {
+    std::string enclosure;
+    std::uint16_t port = 0; // TCP; 0: any
+};
+
+// Each makes one change and prints one line that says what it did, an export two more that say
+// what to do next. Throws problem.
 void make_enclosure(service_client& service, const new_options& options);
 void make_disk(service_client& service, const disk_options& options);
 void insert_disk(service_client& service, const std::string& enclosure, std::uint32_t bay,
@@ -52,6 +58,8 @@ void insert_disk(service_client& service, const std::string& enclosure, std::uin
 void pull_disk(service_client& service, const std::string& enclosure, std::uint32_t bay);
 void plug_in(service_client& service, const std::string& enclosure);
 void unplug(service_client& service, const std::string& enclosure);
+void begin_export(service_client& service, const export_options& options);
+void end_export(service_client& service, const std::string& enclosure);
 void warm_boot(service_client& service, const std::string& enclosure);
 void power_cut(service_client& service, const std::string& enclosure);
 void set_rate(service_client& service, const std::string& enclosure, const std::string& rate);

@@ -33,10 +33,15 @@ std::string state_text(const json& enclosure) {
     if (!enclosure.at("plugged").get<bool>()) {
         return "not plugged in";
     }
-    if (enclosure.at("handle").is_null()) {
-        return "restarting";
+    std::string way;
+    if (const json& exported = enclosure.at("exported"); !exported.is_null()) {
+        way = "exported as " + exported.at("busid").get<std::string>() + " on port " +
+              std::to_string(exported.at("port").get<std::uint16_t>()) + ", ";
     }
-    return "handle " + hex("0x%08llX", enclosure.at("handle").get<std::uint64_t>());
+    if (enclosure.at("handle").is_null()) {
+        return way + "restarting";
+    }
+    return way + "handle " + hex("0x%08llX", enclosure.at("handle").get<std::uint64_t>());
 }
 
 std::string disk_text(const json& disk) {

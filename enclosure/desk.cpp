@@ -184,7 +184,9 @@ std::uint32_t desk::take_handle() {
 void desk::put_on_bus(cabinet& what, moment now, const std::optional<kept_copy>& before) {
     what.plug(take_handle(), now, before);
     watcher_.enclosure_changed(what.settings().name);
-    watcher_.bridge_arrived(*what.on_the_bus());
+    if (const std::optional<bridge> seen = what.on_the_bus()) {
+        watcher_.bridge_arrived(*seen);
+    }
 }
 
 // Without a handle left for it, a bridge stays away as if it had been unplugged.
@@ -198,13 +200,17 @@ void desk::return_to_bus(cabinet& what, moment now, const std::optional<kept_cop
 }
 
 void desk::leave_bus(cabinet& what) {
-    if (const std::optional<std::uint32_t> handle = what.handle()) {
-        watcher_.bridge_departed(*handle);
+    if (const std::optional<bridge> seen = what.on_the_bus()) {
+        watcher_.bridge_departed(seen->handle);
     }
 }
 
 std::uint32_t desk::plug(const std::string& enclosure, moment now) {
     cabinet& what = cabinet_named(enclosure);
+    if (what.export_number()) {
+        throw problem("enclosure '" + enclosure + "' is exported; 'krenclosure unexport " +
+                      enclosure + "' first");
+    }
     if (what.plugged()) {
         throw problem("enclosure '" + enclosure + "' is plugged in already; unplug it first");
     }

@@ -53,12 +53,18 @@ public:
     void insert(const std::string& enclosure, int bay, const std::string& disk);
     std::string pull(const std::string& enclosure, int bay); // gives the disk's name
     std::uint32_t plug(const std::string& enclosure, moment now);
-    void unplug(const std::string& enclosure);
+    void unplug(const std::string& enclosure); // ends an export, too
     void warm_boot(const std::string& enclosure, moment now);
     void power_cut(const std::string& enclosure, moment now); // it comes back as after a restart
     void set_rate(const std::string& enclosure, std::uint64_t bytes_per_second, moment now);
     void add_fault(const std::string& enclosure, const fault_rule& rule);
     std::size_t clear_faults(const std::string& enclosure); // gives how many there were
+
+    // Switches an enclosure on for an export instead of plugging it in, and off again. An export
+    // has the lowest number from 1 that is free, also through restarts. It is not kept.
+    void check_export(const std::string& enclosure) const;                // could it begin?
+    std::uint32_t begin_export(const std::string& enclosure, moment now); // gives the number
+    void end_export(const std::string& enclosure);
 
     // Puts the two disks of an enclosure that is not plugged in into a state; empty bays get
     // disks first, NAME-a, NAME-b or NAME-new. Only the enclosure's own disks are changed.
@@ -111,6 +117,7 @@ private:
     void check_supply(const cabinet& what, scenario state) const;
     void assign_place(cabinet_settings& settings) const;
     std::uint32_t take_handle();
+    std::uint32_t free_export_number() const;
     void put_on_bus(cabinet& what, moment now,
                     const std::optional<kept_copy>& before = std::nullopt);
     void return_to_bus(cabinet& what, moment now,

@@ -1,5 +1,6 @@
 #include "enclosure/desk_report.h"
 
+#include "enclosure/busid.h"
 #include "enclosure/names.h"
 
 #include <nlohmann/json.hpp>
@@ -45,7 +46,14 @@ json of_copy(const mirror_copy& copy) {
             {"running", copy.running()}};
 }
 
-json of_enclosure(const cabinet& what) {
+json of_export(const cabinet& what, std::optional<std::uint16_t> port) {
+    if (!what.export_number() || !port) {
+        return nullptr;
+    }
+    return {{"busid", busid_of(*what.export_number())}, {"port", *port}};
+}
+
+json of_enclosure(const cabinet& what, std::optional<std::uint16_t> usbip_port) {
     const cabinet_settings& settings = what.settings();
     const bool usb = settings.bus == bus_kind::usb;
     const bool on = what.handle().has_value();
@@ -58,6 +66,7 @@ json of_enclosure(const cabinet& what) {
             {"location", usb ? json(settings.location.value_or(0)) : json()},
             {"guid", usb ? json() : json(settings.guid.value_or(0))},
             {"plugged", what.plugged()},
+            {"exported", of_export(what, usbip_port)},
             {"handle", on ? json(*what.handle()) : json()},
             {"bays", of_bays(what)},
             {"array", on ? of_array(what.bridge_chip()) : json()},
@@ -68,10 +77,10 @@ json of_enclosure(const cabinet& what) {
 
 } // namespace
 
-std::string report(const desk& of) {
+std::string report(const desk& of, std::optional<std::uint16_t> usbip_port) {
     json enclosures = json::array();
     for (const auto& [name, what] : of.enclosures()) {
-        enclosures.push_back(of_enclosure(*what));
+        enclosures.push_back(of_enclosure(*what, usbip_port));
     }
     json shelf = json::array();
     for (const auto& [name, which] : of.disks()) {

@@ -3,6 +3,7 @@
 #include "enclosure/option_reader.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace enclosure {
 
@@ -44,6 +45,7 @@ enclosure_object::enclosure_object(service_context& context, std::string name)
     });
     add_bay_methods();
     add_bus_methods();
+    add_export_methods();
     add_trial_methods();
     object_->finishRegistration();
     object_->emitInterfacesAddedSignal({bus::enclosure_interface});
@@ -95,6 +97,22 @@ void enclosure_object::add_bus_methods() {
         .implementedAs([this](const std::uint64_t& rate) {
             on_request([&] { context_.on.set_rate(name_, rate, context_.clock.now()); });
         });
+}
+
+void enclosure_object::add_export_methods() {
+    object_->registerMethod("Export")
+        .onInterface(bus::enclosure_interface)
+        .withInputParamNames("port")
+        .withOutputParamNames("busid", "port")
+        .implementedAs([this](const std::uint16_t& port) {
+            return on_request([&] {
+                const usb_host::place at = context_.usb.begin(name_, port, context_.clock.now());
+                return std::make_tuple(at.busid, at.port);
+            });
+        });
+    object_->registerMethod("Unexport").onInterface(bus::enclosure_interface).implementedAs([this] {
+        on_request([&] { context_.usb.end(name_); });
+    });
 }
 
 void enclosure_object::add_trial_methods() {

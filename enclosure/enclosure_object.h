@@ -18,6 +18,7 @@ public:
 private:
     void add_bay_methods();
     void add_bus_methods();
+    void add_export_methods();
     void add_trial_methods();
 
     service_context& context_;

@@ -3,8 +3,8 @@
 #include <poll.h>
 
 #include <algorithm>
-#include <array>
 #include <ctime>
+#include <vector>
 
 namespace enclosure {
 
@@ -25,10 +25,11 @@ bool readable(int fd) {
 
 } // namespace
 
-host_service::host_service(sdbus::IConnection& connection, state_store& store)
+host_service::host_service(sdbus::IConnection& connection, state_store& store, line_sink complain)
     : store_(store),
       desk_(store.image_folder(), *this),
-      context_{connection, desk_, {}, {}},
+      usb_(desk_, owners_, std::move(complain)),
+      context_{connection, desk_, usb_, {}, {}},
       manager_(context_) {
     store_.load(desk_, context_.clock.now());
 }
@@ -45,10 +46,12 @@ void host_service::run(int stop_fd) {
     }
 }
 
-// One request, one piece of every copy, all answers that are due. True: there is more to do.
+// One request, what has come over USB/IP, one piece of every copy, all answers that are due. True:
+// there is more to do.
 bool host_service::serve() {
     const bool requests = context_.connection.processPendingRequest();
     const moment now = context_.clock.now();
+    usb_.serve(now);
     const bool copies = desk_.advance(now);
     answer_due(now);
     save_copies(now, false);
@@ -81,10 +84,14 @@ void host_service::wait(int stop_fd) {
     if (!context_.later.empty()) {
         until = std::min(until.value_or(moment::max()), context_.later.begin()->first);
     }
+    if (const auto usb_limit = usb_.next_event()) {
+        until = std::min(until.value_or(moment::max()), *usb_limit);
+    }
     if (const auto bus_limit = bus_wait.getRelativeTimeout()) {
         until = std::min(until.value_or(moment::max()), now + *bus_limit);
     }
-    std::array<pollfd, 2> watched{{{bus_wait.fd, bus_wait.events, 0}, {stop_fd, POLLIN, 0}}};
+    std::vector<pollfd> watched = {{bus_wait.fd, bus_wait.events, 0}, {stop_fd, POLLIN, 0}};
+    usb_.watch(watched);
     const timespec limit = as_timespec(std::max(until.value_or(now) - now, moment{0}));
     ::ppoll(watched.data(), watched.size(), until ? &limit : nullptr, nullptr);
 }

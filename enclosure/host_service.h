@@ -15,8 +15,9 @@ namespace enclosure {
 // One thread.
 class host_service final : private desk_watcher {
 public:
-    // `connection` has the service's name already; requests wait until run().
-    host_service(sdbus::IConnection& connection, state_store& store);
+    // `connection` has the service's name already; requests wait until run(). `complain` takes
+    // what clients of exported enclosures do wrong.
+    host_service(sdbus::IConnection& connection, state_store& store, line_sink complain);
     ~host_service() override;
 
     // Serves the bus and lets time pass on the desk until `stop_fd` becomes readable. Throws
@@ -40,6 +41,8 @@ private:
 
     state_store& store_;
     desk desk_;
+    kernel_peer_owner owners_;
+    usb_host usb_;
     service_context context_;
     manager_object manager_;
     std::map<std::string, std::unique_ptr<enclosure_object>> enclosures_;

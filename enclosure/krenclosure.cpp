@@ -2,6 +2,7 @@
 #include "enclosure/command_actions.h"
 #include "enclosure/problem.h"
 #include "enclosure/scenario.h"
+#include "enclosure/usbip_wire.h"
 #include "enclosure/version.h"
 
 #include <CLI/CLI.hpp>
@@ -118,6 +119,20 @@ void add_bus(CLI::App& app, action& chosen) {
            power_cut);
 }
 
+void add_export(CLI::App& app, action& chosen) {
+    add<export_options>(
+        app, chosen, "export", "Export an unplugged enclosure over USB/IP, for a kernel to attach",
+        [](CLI::App& command, export_options& given) {
+            given.port = usbip::usual_port;
+            command.add_option("enclosure", given.enclosure, "Name of the enclosure")->required();
+            command.add_option("--port", given.port, "TCP port, within this machine (3240)");
+        },
+        begin_export);
+    add<words>(
+        app, chosen, "unexport", "End an export", take_enclosure,
+        [](service_client& service, const words& given) { end_export(service, given.enclosure); });
+}
+
 void add_trials(CLI::App& app, action& chosen) {
     add<words>(
         app, chosen, "rate", "Set how fast the chip copies a mirror",
@@ -200,6 +215,7 @@ int run(int argc, char** argv) {
     add_disk(app, chosen);
     add_bays(app, chosen);
     add_bus(app, chosen);
+    add_export(app, chosen);
     add_trials(app, chosen);
     add_fault(app, chosen);
     add_whole(app, chosen);

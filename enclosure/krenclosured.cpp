@@ -51,7 +51,7 @@ void serve(const file_handle& stop) {
     const std::unique_ptr<sdbus::IConnection> connection = join_bus();
     take_name(*connection);
     state_store store(usual_state_folder(), complain);
-    host_service service(*connection, store);
+    host_service service(*connection, store, complain);
     try {
         service.run(stop.get());
     } catch (const sdbus::Error&) {

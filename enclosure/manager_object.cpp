@@ -90,7 +90,7 @@ void manager_object::add_methods() {
     object_->registerMethod("Describe")
         .onInterface(bus::manager_interface)
         .withOutputParamNames("json")
-        .implementedAs([this] { return report(context_.on); });
+        .implementedAs([this] { return report(context_.on, context_.usb.port()); });
 }
 
 } // namespace enclosure

@@ -133,6 +133,23 @@ void service_client::unplug(const std::string& enclosure) {
     control(enclosure, "Unplug");
 }
 
+export_place service_client::begin_export(const std::string& enclosure, std::uint16_t port) {
+    check_name("enclosure", enclosure);
+    return made(enclosure, [&] {
+        export_place place;
+        object(bus::enclosure_path(enclosure))
+            ->callMethod("Export")
+            .onInterface(bus::enclosure_interface)
+            .withArguments(port)
+            .storeResultsTo(place.busid, place.port);
+        return place;
+    });
+}
+
+void service_client::end_export(const std::string& enclosure) {
+    control(enclosure, "Unexport");
+}
+
 void service_client::warm_boot(const std::string& enclosure) {
     control(enclosure, "WarmBoot");
 }

@@ -10,6 +10,12 @@
 
 namespace enclosure {
 
+// Where an exported enclosure is to be had on USB/IP.
+struct export_place {
+    std::string busid;
+    std::uint16_t port = 0;
+};
+
 // One thread. Starts the service by activation when it does not run. Throws problem, with a line
 // that names the thing and the remedy, when something cannot be done.
 class service_client {
@@ -26,6 +32,8 @@ public:
     std::string pull(const std::string& enclosure, std::uint8_t bay);
     std::uint32_t plug(const std::string& enclosure);
     void unplug(const std::string& enclosure);
+    export_place begin_export(const std::string& enclosure, std::uint16_t port); // 0: any
+    void end_export(const std::string& enclosure);
     void warm_boot(const std::string& enclosure);
     void power_cut(const std::string& enclosure);
     void set_rate(const std::string& enclosure, std::uint64_t bytes_per_second);

@@ -5,6 +5,7 @@
 #include "enclosure/dbus_names.h"
 #include "enclosure/desk.h"
 #include "enclosure/problem.h"
+#include "enclosure/usb_host.h"
 
 #include <functional>
 #include <map>
@@ -14,6 +15,7 @@ namespace enclosure {
 struct service_context {
     sdbus::IConnection& connection;
     desk& on;
+    usb_host& usb;
     real_clock clock;
     std::multimap<moment, std::function<void()>> later; // answers that take time, by when
 };

@@ -175,7 +175,7 @@ std::string enclosure_to_json(const cabinet& what, const std::optional<kept_copy
                         {"product", settings.product},
                         {"restart_delay_ms", settings.restart_delay.count()},
                         {"bays", bays_json(what)},
-                        {"plugged", what.plugged()},
+                        {"plugged", what.plugged() && !what.export_number()},
                         {"rate", what.bridge_chip().copy().rate()},
                         {"last_handle", what.last_handle()},
                         {"copy", copy ? copy_json(*copy) : json()}};

@@ -1,0 +1,73 @@
+// A client of USB/IP over a real socket. One thread.
+#pragma once
+
+#include "enclosure/file_handle.h"
+
+#include "tests/enclosure/usb_builders.h"
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+
+#include <array>
+#include <functional>
+#include <stdexcept>
+
+class usbip_client {
+public:
+    // What else has to go on while the client waits for an answer.
+    using errand = std::function<void()>;
+
+    explicit usbip_client(
+        std::uint16_t port, errand meanwhile = [] {})
+        : meanwhile_(std::move(meanwhile)),
+          socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+        sockaddr_in there{};
+        there.sin_family = AF_INET;
+        there.sin_port = htons(port);
+        there.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        if (::connect(socket_.get(), reinterpret_cast<sockaddr*>(&there), sizeof there) != 0) {
+            throw std::runtime_error("nobody listens");
+        }
+    }
+
+    void say(const usb_builders::bytes& packet) {
+        ::send(socket_.get(), packet.data(), packet.size(), MSG_NOSIGNAL);
+    }
+
+    // The next `count` bytes, or fewer when the connection ends before.
+    usb_builders::bytes hear(std::size_t count) {
+        usb_builders::bytes heard;
+        while (heard.size() < count && hear_more(heard, count - heard.size())) {
+        }
+        return heard;
+    }
+
+    usb_builders::bytes ask(const usb_builders::bytes& packet, std::size_t count) {
+        say(packet);
+        return hear(count);
+    }
+
+    // Waits for the end of the connection; false when something else came.
+    bool ends() { return hear(1).empty(); }
+
+private:
+    bool hear_more(usb_builders::bytes& heard, std::size_t most) {
+        std::array<std::uint8_t, 65536> part{};
+        pollfd one{socket_.get(), POLLIN, 0};
+        while (::poll(&one, 1, idle_wait()) == 0) {
+            meanwhile_();
+        }
+        const ssize_t got = ::recv(socket_.get(), part.data(), std::min(most, part.size()), 0);
+        if (got > 0) {
+            heard.insert(heard.end(), part.begin(), part.begin() + got);
+        }
+        return got > 0;
+    }
+
+    static int idle_wait() { return 1; } // ms between two looks at what goes on meanwhile
+
+    errand meanwhile_;
+    enclosure::file_handle socket_;
+};

@@ -1,0 +1,211 @@
+// Real sockets: who is let in, and what one client can do to another.
+#include "enclosure/usbip_server.h"
+
+#include "enclosure/problem.h"
+#include "enclosure/usb_host.h"
+
+#include "tests/enclosure/exported_desk.h"
+#include "tests/enclosure/usbip_client.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+namespace enclosure {
+namespace {
+
+using namespace usb_builders;
+
+class scripted_owner final : public peer_owner {
+public:
+    std::optional<uid_t> owner(const sockaddr_in&, const sockaddr_in&) override { return says; }
+
+    std::optional<uid_t> says = ::geteuid();
+};
+
+class UsbipServer : public testing::Test {
+protected:
+    void serve() {
+        std::vector<pollfd> watched;
+        server_.watch(watched);
+        ::poll(watched.data(), watched.size(), 0);
+        desk_.on.advance(desk_.now);
+        server_.serve(desk_.now);
+    }
+
+    std::unique_ptr<usbip_client> client() {
+        return std::make_unique<usbip_client>(server_.port(), [this] { serve(); });
+    }
+
+    exported_desk desk_;
+    scripted_owner owners_;
+    std::vector<std::string> lines_;
+    usbip_server server_{desk_.exports, owners_, 0,
+                         [this](const std::string& line) { lines_.push_back(line); }};
+};
+
+TEST_F(UsbipServer, ServesSeveralClients) {
+    const auto first = client();
+    const auto second = client();
+    EXPECT_EQ(first->ask(import_request("1-1"), 320).size(), 320U);
+    EXPECT_EQ(second->ask(import_request("1-1"), 8), (bytes{1, 0x11, 0, 3, 0, 0, 0, 2}));
+    EXPECT_TRUE(second->ends());
+    EXPECT_EQ(first->ask(control_in(1, {0xA1, 0xFE, 0, 0, 0, 0, 1, 0}, 1), 49).size(), 49U);
+    EXPECT_TRUE(lines_.empty());
+}
+
+TEST_F(UsbipServer, AClientThatHangsUpGivesTheDeviceBack) {
+    auto first = client();
+    EXPECT_EQ(first->ask(import_request("1-1"), 320).size(), 320U);
+    first.reset();
+    while (server_.clients() > 0) {
+        serve();
+    }
+    EXPECT_EQ(client()->ask(import_request("1-1"), 320).size(), 320U);
+}
+
+TEST_F(UsbipServer, AMalformedStreamEndsItsOwnConnectionWithOneLine) {
+    const auto good = client();
+    const auto bad = client();
+    good->ask(import_request("1-1"), 320);
+    bad->say(bytes(8, 'x'));
+    EXPECT_TRUE(bad->ends());
+    ASSERT_EQ(lines_.size(), 1U);
+    EXPECT_NE(lines_[0].find("USB/IP"), std::string::npos);
+    EXPECT_EQ(good->ask(control_in(1, {0xA1, 0xFE, 0, 0, 0, 0, 1, 0}, 1), 49).size(), 49U);
+}
+
+TEST_F(UsbipServer, RootIsLetIn) {
+    owners_.says = 0;
+    EXPECT_EQ(client()->ask(list_request(), 328).size(), 328U);
+}
+
+TEST_F(UsbipServer, OtherUsersAreTurnedAway) {
+    owners_.says = ::geteuid() + 1;
+    EXPECT_TRUE(client()->ends());
+    ASSERT_EQ(lines_.size(), 1U);
+    EXPECT_NE(lines_[0].find("user " + std::to_string(::geteuid() + 1)), std::string::npos);
+}
+
+TEST_F(UsbipServer, WhoCannotBeFoundIsTurnedAway) {
+    owners_.says.reset();
+    EXPECT_TRUE(client()->ends());
+    EXPECT_EQ(lines_.size(), 1U);
+}
+
+TEST_F(UsbipServer, AFullHouseLetsTheNextOneWait) {
+    std::vector<std::unique_ptr<usbip_client>> guests;
+    for (int i = 0; i < 72; ++i) {
+        guests.push_back(client());
+        serve();
+    }
+    EXPECT_EQ(server_.clients(), 72U);
+    const auto late = client();
+    late->say(list_request());
+    serve();
+    EXPECT_EQ(server_.clients(), 72U);
+    guests.clear();
+    EXPECT_EQ(late->hear(328).size(), 328U);
+}
+
+TEST_F(UsbipServer, APortInUseIsSaidInOneLine) {
+    try {
+        usbip_server second(desk_.exports, owners_, server_.port(), [](const std::string&) {});
+        FAIL() << "two servers on one port";
+    } catch (const problem& trouble) {
+        const std::string line = trouble.what();
+        EXPECT_NE(line.find(std::to_string(server_.port())), std::string::npos) << line;
+        EXPECT_NE(line.find("--port"), std::string::npos) << line;
+    }
+}
+
+TEST_F(UsbipServer, LargeTransfersGoThroughInPieces) {
+    const auto one = client();
+    one->ask(import_request("1-1"), 320);
+    one->ask(bulk_out(1, wrapped(1, 36, true, inquiry)), 48);
+    one->say(bulk_out(2, bytes(1U << 20))); // waits until the data have been fetched
+    EXPECT_EQ(one->ask(joined({bulk_in(3, 36), bulk_in(4, 13)}), 48 + 36 + 48 + 13).size(), 145U);
+    EXPECT_EQ(one->hear(48), submit_reply(2, 0, 1U << 20)) << "taken, though it is no command";
+    EXPECT_EQ(one->ask(bulk_in(5, 13), 48), submit_reply(5, -32, 0));
+}
+
+class UsbHost : public testing::Test {
+protected:
+    UsbHost() {
+        on_.add_enclosure(usb_settings("box"));
+        on_.add_enclosure(usb_settings("other"));
+        cabinet_settings wire = usb_settings("wire");
+        wire.bus = bus_kind::firewire;
+        on_.add_enclosure(wire);
+    }
+
+    bool listens(std::uint16_t port) {
+        try {
+            usbip_client client(port);
+            return true;
+        } catch (const std::runtime_error&) {
+            return false;
+        }
+    }
+
+    temporary_folder folder_;
+    quiet_watcher watcher_;
+    desk on_{folder_.path(), watcher_};
+    scripted_owner owners_;
+    usb_host host_{on_, owners_, [](const std::string&) {}};
+};
+
+TEST_F(UsbHost, ListensOnlyWhileSomethingIsExported) {
+    EXPECT_EQ(host_.port(), std::nullopt);
+    const usb_host::place first = host_.begin("box", 0, moment{0});
+    EXPECT_EQ(first.busid, "1-1");
+    const usb_host::place second = host_.begin("other", first.port, moment{0});
+    EXPECT_EQ(second.busid, "1-2");
+    EXPECT_EQ(second.port, first.port);
+    host_.end("box");
+    EXPECT_TRUE(listens(first.port));
+    EXPECT_EQ(host_.begin("box", 0, moment{0}).busid, "1-1") << "the number is free again";
+    host_.end("box");
+    host_.end("other");
+    EXPECT_EQ(host_.port(), std::nullopt);
+    EXPECT_FALSE(listens(first.port));
+}
+
+TEST_F(UsbHost, UnpluggingEndsAnExport) {
+    const std::uint16_t port = host_.begin("box", 0, moment{0}).port;
+    on_.unplug("box");
+    host_.serve(moment{0});
+    EXPECT_FALSE(listens(port));
+}
+
+TEST_F(UsbHost, AnExportIsNoBridgeOfTheDesk) {
+    host_.begin("box", 0, moment{0});
+    EXPECT_TRUE(on_.bridges().empty());
+    EXPECT_TRUE(on_.enclosure("box").handle());
+    on_.warm_boot("box", moment{0});
+    on_.advance(std::chrono::seconds(1));
+    EXPECT_TRUE(on_.enclosure("box").handle());
+    EXPECT_TRUE(on_.bridges().empty()) << "nor after a restart";
+    host_.end("box");
+    on_.plug("box", moment{0});
+    EXPECT_EQ(on_.bridges().size(), 1U);
+}
+
+TEST_F(UsbHost, WhatCannotBeExportedLeavesNoSocketBehind) {
+    on_.plug("box", moment{0});
+    EXPECT_THROW(host_.begin("box", 0, moment{0}), problem);
+    EXPECT_THROW(host_.begin("wire", 0, moment{0}), problem);
+    EXPECT_THROW(host_.begin("nix", 0, moment{0}), problem);
+    EXPECT_THROW(host_.end("box"), problem);
+    EXPECT_EQ(host_.port(), std::nullopt);
+}
+
+TEST_F(UsbHost, AllExportsShareOnePort) {
+    const std::uint16_t port = host_.begin("box", 0, moment{0}).port;
+    const auto another = static_cast<std::uint16_t>(port ^ 1U);
+    EXPECT_THROW(host_.begin("other", another, moment{0}), problem);
+    EXPECT_FALSE(on_.enclosure("other").plugged());
+}
+
+} // namespace
+} // namespace enclosure
