@@ -76,6 +76,8 @@ void demo(service_client& service) {
             make_example(service, desk, one);
         } else if (!there->at("plugged").get<bool>()) {
             plug_in(service, one.name);
+        } else if (!there->at("exported").is_null()) {
+            std::cout << "'" << one.name << "' is exported" << std::endl;
         } else {
             std::cout << "'" << one.name << "' is plugged in already" << std::endl;
         }

@@ -8,8 +8,6 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 namespace enclosure {
@@ -52,16 +50,7 @@ file_handle listen_on(std::uint16_t port) {
     return socket;
 }
 
-// What has arrived; false: the other end has closed or gone.
-bool receive(const file_handle& socket, usbip_session& session, moment now) {
-    static thread_local std::array<std::uint8_t, read_at_once> buffer;
-    const ssize_t got = ::recv(socket.get(), buffer.data(), buffer.size(), MSG_DONTWAIT);
-    if (got > 0) {
-        session.receive(byte_view(buffer).first(static_cast<std::size_t>(got)), now);
-    }
-    return got > 0 || (got < 0 && (errno == EAGAIN || errno == EINTR));
-}
-
+// False: nobody is at the other end any more.
 bool send(const file_handle& socket, usbip_session& session, moment now) {
     const byte_view output = session.output();
     if (output.empty()) {
@@ -82,6 +71,7 @@ usbip_server::usbip_server(usb_exports& exports, peer_owner& owners, std::uint16
     : exports_(exports),
       owners_(owners),
       complain_(std::move(complain)),
+      buffer_(read_at_once),
       listener_(listen_on(port)) {}
 
 std::uint16_t usbip_server::port() const {
@@ -130,7 +120,7 @@ void usbip_server::serve(moment now) {
 void usbip_server::go_on(client& with, short events, moment now) {
     usbip_session& session = with.session;
     if ((events & POLLIN) != 0) {
-        with.lost = !receive(with.socket, session, now);
+        with.lost = !receive(with, now);
     } else if ((events & (POLLHUP | POLLERR)) != 0) {
         with.lost = true;
     }
@@ -139,6 +129,15 @@ void usbip_server::go_on(client& with, short events, moment now) {
     if (session.over() && !session.complaint().empty()) {
         complain_("closed a USB/IP connection: its client " + session.complaint());
     }
+}
+
+// False: the other end has closed or gone.
+bool usbip_server::receive(client& from, moment now) {
+    const ssize_t got = ::recv(from.socket.get(), buffer_.data(), buffer_.size(), MSG_DONTWAIT);
+    if (got > 0) {
+        from.session.receive(byte_view(buffer_).first(static_cast<std::size_t>(got)), now);
+    }
+    return got > 0 || (got < 0 && (errno == EAGAIN || errno == EINTR));
 }
 
 void usbip_server::admit(moment now) {

@@ -53,12 +53,14 @@ private:
     void admit(moment now);
     bool is_welcome(const file_handle& connection, const sockaddr_in& peer);
     void go_on(client& with, short events, moment now);
+    bool receive(client& from, moment now);
 
     usb_exports& exports_;
     peer_owner& owners_;
     line_sink complain_;
-    file_handle listener_;
+    std::vector<std::uint8_t> buffer_; // for what is being read
     std::list<client> clients_;
+    file_handle listener_; // the first to go
 };
 
 } // namespace enclosure

@@ -1,4 +1,5 @@
 // The service and its command as people use them.
+#include "tests/enclosure/command_line.h"
 #include "tests/enclosure/host_process.h"
 #include "tests/enclosure/private_bus.h"
 
@@ -9,46 +10,15 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <sys/wait.h>
-
-#include <algorithm>
 #include <array>
 #include <atomic>
-#include <cstdio>
 #include <fstream>
 #include <thread>
 
 namespace {
 
-struct outcome {
-    int status;
-    std::string output; // of both streams
-
-    long lines() const { return std::count(output.begin(), output.end(), '\n'); }
-};
-
-outcome run(const std::string& command_line) {
-    FILE* const pipe = ::popen((command_line + " 2>&1").c_str(), "r");
-    outcome made{-1, ""};
-    std::array<char, 4096> buffer{};
-    while (const std::size_t got = std::fread(buffer.data(), 1, buffer.size(), pipe)) {
-        made.output.append(buffer.data(), got);
-    }
-    const int status = ::pclose(pipe);
-    made.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return made;
-}
-
-outcome command(const std::string& arguments) {
-    return run(KRENCLOSURE " " + arguments);
-}
-
 outcome service_again() {
     return run(KRENCLOSURED);
-}
-
-nlohmann::json listed() {
-    return nlohmann::json::parse(command("list --json").output);
 }
 
 class Command : public testing::Test {

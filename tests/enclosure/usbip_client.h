@@ -5,24 +5,26 @@
 
 #include "tests/enclosure/usb_builders.h"
 
-#include <arpa/inet.h>
 #include <netinet/in.h>
 #include <poll.h>
 #include <sys/socket.h>
 
+#include <algorithm>
 #include <array>
+#include <chrono>
 #include <functional>
 #include <stdexcept>
 
+inline constexpr int client_patience = 30'000; // ms
+
 class usbip_client {
 public:
-    // What else has to go on while the client waits for an answer.
-    using errand = std::function<void()>;
+    // Waits until the socket named can be read, or something else has gone on meanwhile.
+    using waiting = std::function<void(pollfd&)>;
 
     explicit usbip_client(
-        std::uint16_t port, errand meanwhile = [] {})
-        : meanwhile_(std::move(meanwhile)),
-          socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+        std::uint16_t port, waiting wait = [](pollfd& one) { ::poll(&one, 1, client_patience); })
+        : wait_(std::move(wait)), socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
         sockaddr_in there{};
         there.sin_family = AF_INET;
         there.sin_port = htons(port);
@@ -54,11 +56,16 @@ public:
 
 private:
     bool hear_more(usb_builders::bytes& heard, std::size_t most) {
-        std::array<std::uint8_t, 65536> part{};
+        const auto deadline =
+            std::chrono::steady_clock::now() + std::chrono::milliseconds(client_patience);
         pollfd one{socket_.get(), POLLIN, 0};
-        while (::poll(&one, 1, idle_wait()) == 0) {
-            meanwhile_();
+        while (one.revents == 0) {
+            if (std::chrono::steady_clock::now() > deadline) {
+                throw std::runtime_error("no answer in half a minute");
+            }
+            wait_(one);
         }
+        std::array<std::uint8_t, 65536> part{};
         const ssize_t got = ::recv(socket_.get(), part.data(), std::min(most, part.size()), 0);
         if (got > 0) {
             heard.insert(heard.end(), part.begin(), part.begin() + got);
@@ -66,8 +73,6 @@ private:
         return got > 0;
     }
 
-    static int idle_wait() { return 1; } // ms between two looks at what goes on meanwhile
-
-    errand meanwhile_;
+    waiting wait_;
     enclosure::file_handle socket_;
 };
