@@ -1,0 +1,125 @@
+# shellcheck shell=bash
+# A bare Debian in the folder `root`, and ways to use it. Sourced, in namespaces of its own for mounts
+# and processes.
+: "${root:?}"
+
+# The Debian archives that apt has here, as lines of a sources.list.
+debian_sources() {
+    # shellcheck disable=SC2016 # apt's own variables
+    apt-get indextargets 'Created-By: Packages' 'Origin: Debian' \
+        --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' | sort -u
+}
+
+# make_tar TAR: a bare system of this Debian, with what the trial itself needs: a session bus, and
+# udev's engine and database.
+make_tar() {
+    local codename
+    codename=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)
+    apt-config dump Acquire >"$1.conf"
+    debian_sources | mmdebstrap --variant=minbase --format=tar --aptopt="$1.conf" \
+        --include=dbus-daemon,udev "$codename" "$1.new" - >"$1.log" 2>&1 ||
+        { cat "$1.log" >&2; fail "no bare system"; }
+    mv "$1.new" "$1"
+}
+
+# open_root TAR: a fresh system in `root`, out of TAR, which is made when it is not there.
+open_root() {
+    [ -e "$1" ] || make_tar "$1"
+    rm -rf --one-file-system "$root"
+    mkdir -p "$root"
+    tar --extract --file="$1" --directory="$root"
+    mount -t proc proc "$root/proc"
+    mount --rbind /sys "$root/sys"
+    cp /etc/resolv.conf /etc/hosts "$root/etc/"
+    printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d"
+    chmod +x "$root/usr/sbin/policy-rc.d"
+    inside useradd --create-home tester
+}
+
+# inside COMMAND...: runs it in the clean system, as root.
+inside() {
+    chroot "$root" /usr/bin/env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 \
+        DEBIAN_FRONTEND=noninteractive "$@"
+}
+
+# apt_inside ARGUMENTS...: apt-get in the clean system; recommended packages stay away.
+apt_inside() {
+    inside apt-get -q -y --no-install-recommends "$@"
+}
+
+# debs VERSION NAMES...: where hand_over has laid these packages.
+debs() {
+    printf "/packages/%s_$1.deb\n" "${@:2}"
+}
+
+# hand_over FOLDER VERSION OLD: lays the packages of FOLDER into the clean system's /packages, as
+# NAME_VERSION.deb, and once more with an earlier version.
+hand_over() {
+    local deb name tree
+    mkdir -p "$root/packages"
+    for deb in "$1"/*.deb; do
+        name=$(dpkg-deb -f "$deb" Package)
+        case $name in *-dbgsym) continue ;; esac
+        cp "$deb" "$root/packages/${name}_$2.deb"
+        tree=$(mktemp -d)
+        dpkg-deb -R "$deb" "$tree"
+        sed -i "s/\b${2//./\\.}\b/$3/g" "$tree/DEBIAN/control"
+        dpkg-deb --root-owner-group -b "$tree" "$root/packages/${name}_$3.deb" >/dev/null
+        rm -rf "$tree"
+    done
+}
+
+# install_dependencies DEBS...: what they depend on, by apt's own reckoning, and nothing of ours.
+install_dependencies() {
+    local wanted
+    apt_inside update
+    wanted=$(apt_inside install --simulate "$@" |
+        awk '$1 == "Inst" && $2 !~ /krraid|kestrelraid/ { print $2 }')
+    # shellcheck disable=SC2086 # a list
+    apt_inside install $wanted
+}
+
+# photograph FILE SCRIPT: runs the shell script, which ends in the program, in the clean system as a
+# user with a session bus and a display, writes a picture of the window and closes it. Fails when the
+# session does not end well.
+photograph() {
+    local work number status=0
+    work=$(mktemp -d)
+    mkfifo "$work/display"
+    Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+    local server=$!
+    read -r number <"$work/display"
+    export DISPLAY=:$number
+    openbox >/dev/null 2>&1 &
+    chroot --userspec=tester "$root" /usr/bin/env -i PATH=/usr/bin:/bin LANG=C.UTF-8 \
+        HOME=/home/tester DISPLAY="$DISPLAY" dbus-run-session -- sh -c "$2" >"$work/out" 2>&1 &
+    local session=$!
+    look_and_close "$1" "$work/out" || { status=1; kill $session; }
+    wait $session || status=1
+    kill $server
+    # The emulator writes down its state when the bus has gone.
+    timeout 60 sh -c "while pgrep -u $(inside id -u tester) >/dev/null; do sleep 0.1; done" || status=1
+    cat "$work/out"
+    rm -rf "$work"
+    return $status
+}
+
+# look_and_close FILE LOG: a picture of the program's window, when it listens and two looks at it are
+# the same; then the key that closes it.
+look_and_close() {
+    local window last='' now
+    timeout 60 sh -c "until grep -q 'Starting run loop' '$2'; do sleep 0.1; done" || return 1
+    window=$(timeout 60 xdotool search --sync --onlyvisible --name 'Kestrel RAID' | head -n 1)
+    for _ in $(seq 60); do
+        import -window "$window" "$1" || return 1
+        now=$(identify -format '%#' "$1")
+        if [ "$now" = "$last" ]; then
+            xdotool windowactivate --sync "$window" key ctrl+q
+            return
+        fi
+        last=$now
+        sleep 0.5
+    done
+    echo "the window does not settle"
+    return 1
+}
