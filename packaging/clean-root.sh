@@ -98,18 +98,23 @@ photograph() {
     wait $session || status=1
     kill $server
     # The emulator writes down its state when the bus has gone.
-    timeout 60 sh -c "while pgrep -u $(inside id -u tester) >/dev/null; do sleep 0.1; done" || status=1
+    await "! pgrep -u $(inside id -u tester) >/dev/null" || status=1
     cat "$work/out"
     rm -rf "$work"
     return $status
 }
 
+# await TEXT: waits until the shell command TEXT succeeds, a minute at most.
+await() {
+    timeout 60 sh -c "until $1; do sleep 0.1; done" || { echo "in vain for a minute: $1"; return 1; }
+}
+
 # look_and_close FILE LOG: a picture of the program's window, when it listens and two looks at it are
 # the same; then the key that closes it.
 look_and_close() {
-    local window last='' now
-    timeout 60 sh -c "until grep -q 'Starting run loop' '$2'; do sleep 0.1; done" || return 1
-    window=$(timeout 60 xdotool search --sync --onlyvisible --name 'Kestrel RAID' | head -n 1)
+    local find="xdotool search --onlyvisible --name 'Kestrel RAID'" window last='' now
+    await "grep -q 'Starting run loop' '$2'" || return 1
+    window=$(await "$find") || return 1
     for _ in $(seq 60); do
         import -window "$window" "$1" || return 1
         now=$(identify -format '%#' "$1")
