@@ -2,8 +2,10 @@
 
 import configparser
 import os
+import re
 import subprocess
 import tempfile
+import xml.etree.ElementTree
 
 from kestrel import BUILD, check, run, without_devices
 
@@ -45,6 +47,34 @@ def the_menu_entry_is_valid():
     check("names", (entry["Desktop Entry"]["Icon"], entry["Desktop Entry"]["StartupWMClass"]), (NAME, NAME))
 
 
+def what_software_centres_read_is_valid():
+    path = f"{ROOT}/share/metainfo/{NAME}.metainfo.xml"
+    told = subprocess.run(["appstreamcli", "validate", "--no-net", path], capture_output=True, text=True, timeout=60)
+    check("valid", told.returncode, 0)
+    version = subprocess.run([f"{ROOT}/bin/krenclosure", "--version"], capture_output=True, text=True, check=True,
+                             timeout=30).stdout.split()[1]
+    releases = xml.etree.ElementTree.parse(path).findall("releases/release")
+    check("latest release", releases[0].get("version"), version)
+
+
+def every_program_has_a_manual_page_in_good_order():
+    man = f"{ROOT}/share/man"
+    pages = [f"{man}/man1/{name}.1" for name in ("kestrelraid", "krenclosure", "krenclosured")]
+    pages.append(f"{man}/man5/kestrelraid-bridges.5")
+    told = subprocess.run(["mandoc", "-Tlint", "-Wwarning", *pages], capture_output=True, text=True, timeout=30)
+    check("complaints", told.stdout, "")
+    check("read", told.returncode, 0)
+
+
+def the_emulators_page_names_every_command():
+    told = subprocess.run([f"{ROOT}/bin/krenclosure", "--help"], capture_output=True, text=True, check=True,
+                          timeout=30).stdout
+    commands = [line.split()[0] for line in told.split("Subcommands:")[1].splitlines() if line.strip()]
+    with open(f"{ROOT}/share/man/man1/krenclosure.1", encoding="utf-8") as page:
+        described = re.findall(r"^\.It Cm ([a-z-]+)", page.read(), re.MULTILINE)
+    check("commands without a word", sorted(set(commands) - set(described)), [])
+
+
 def its_icon_has_all_sizes():
     icons = os.path.join(ROOT, "share", "icons", "hicolor")
     sizes = [f"{size}x{size}" for size in (16, 24, 32, 48, 64, 128, 256)]
@@ -56,4 +86,5 @@ def its_icon_has_all_sizes():
 
 
 run(it_can_be_installed_anywhere, the_program_starts_with_an_access_library,
-    a_makers_library_goes_before_the_bundled_one, the_menu_entry_is_valid, its_icon_has_all_sizes)
+    a_makers_library_goes_before_the_bundled_one, the_menu_entry_is_valid, what_software_centres_read_is_valid,
+    every_program_has_a_manual_page_in_good_order, the_emulators_page_names_every_command, its_icon_has_all_sizes)
