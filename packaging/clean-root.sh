@@ -71,12 +71,10 @@ hand_over() {
 
 # install_dependencies DEBS...: what they depend on, by apt's own reckoning, and nothing of ours.
 install_dependencies() {
-    local wanted
-    apt_inside update
-    wanted=$(apt_inside install --simulate "$@" |
-        awk '$1 == "Inst" && $2 !~ /krraid|kestrelraid/ { print $2 }')
-    # shellcheck disable=SC2086 # a list
-    apt_inside install $wanted
+    local plan
+    apt_inside update && plan=$(apt_inside install --simulate "$@") || return
+    awk '$1 == "Inst" && $2 !~ /krraid|kestrelraid/ { print $2 }' <<<"$plan" |
+        inside xargs apt-get -q -y --no-install-recommends install
 }
 
 # photograph FILE SCRIPT: runs the shell script, which ends in the program, in the clean system as a
