@@ -95,8 +95,9 @@ photograph() {
     look_and_close "$1" "$work/out" || { status=1; kill $session; }
     wait $session || status=1
     kill $server
-    # The emulator writes down its state when the bus has gone.
-    await "! pgrep -u $(inside id -u tester) >/dev/null" || status=1
+    # The emulator writes down its state when the bus has gone. What has ended but is not reaped yet
+    # does not count.
+    await "! pgrep --runstates D,R,S,T -u $(inside id -u tester) >/dev/null" || status=1
     cat "$work/out"
     rm -rf "$work"
     return $status
