@@ -58,7 +58,7 @@ TEST_F(ExportCommand, IsShownAndIsNoBridgeOfTheBus) {
     EXPECT_EQ(box().at("array").at("state"), "in order");
     EXPECT_NE(command("list").output.find("exported as 1-1 on port "), std::string::npos);
     enclosure::dbus_transport way;
-    EXPECT_TRUE(way.bridges().empty());
+    EXPECT_TRUE(way.bridges().handles.empty());
     EXPECT_EQ(command("unexport box").output, "ended the export of 'box'\n");
     EXPECT_EQ(box().at("plugged"), false);
     EXPECT_TRUE(box().at("exported").is_null());

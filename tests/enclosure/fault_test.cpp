@@ -116,7 +116,7 @@ TEST_F(Fault, ADelayBeyondTheLimitIsNone) {
 TEST_F(Fault, ATimeOutIsNoAnswerAndTheWriteIsNotMade) {
     bench_.write_image("a", 10, sector_number(1));
     add(fault_kind::time_out, io_kind::write);
-    EXPECT_EQ(write(10, 0, sector_number(2)), -1);
+    EXPECT_EQ(write(10, 0, sector_number(2)), KRRAID_NO_ANSWER);
     EXPECT_EQ(bench_.read_image("a", 10), sector_number(1));
     EXPECT_EQ(write(11, 0, sector_number(2)), 0);
     sector_data data{};

@@ -1,6 +1,6 @@
 // The registry and the hot-plug source as the program uses them.
 #include "device/sg_handle.h"
-#include "device/udev_registry.h"
+#include "device/source_registry.h"
 #include "device/udev_source.h"
 #include "tests/udev/mock_bus.h"
 
@@ -172,7 +172,7 @@ TEST(UdevRegistryOfTheSystem, FindsWhatTheRuleHasChosen) {
     bus.add(device);
     bus.add_scsi_device(device.path(), {});
     bus.add_node(device.path(), {});
-    udev_registry registry;
+    source_registry registry(std::make_unique<udev_source>());
     ASSERT_TRUE(registry.match(bridge_class));
     EXPECT_NE(registry.next(registry.add_matching_notification({})), 0U);
 }
