@@ -91,7 +91,9 @@ void refuse_instead(panel_request& question, const std::vector<volume_use>& uses
     question.buttons.resize(1);
     if (question.plan) {
         question.plan->heading = filled(texts.text("ui_plan_refused"), {question.plan->heading});
+        question.plan->arrow = plan_arrow::none; // nothing is overwritten, and nobody is to fear it
         for (plan_card& card : question.plan->cards) {
+            card.tone = fate_tone::calm;
             card.warnings.clear();
         }
     }

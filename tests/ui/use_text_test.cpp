@@ -92,11 +92,15 @@ TEST_F(use_text, SaysOfThePlanThatItIsNotDoneAndLeavesItsWarningsOut) {
     texts.set("ui_plan_refused", "Not done: %1");
     request.plan.emplace().heading = "Deletes the array.";
     request.plan->cards[0].fate = "is lost";
+    request.plan->cards[0].tone = fate_tone::lost;
+    request.plan->arrow = plan_arrow::to_disk1;
     request.plan->cards[0].warnings = {"Too small."};
     request.plan->cards[1].warnings = {"Odd sectors."};
     refuse_instead(request, {mounted}, texts);
     EXPECT_EQ(request.plan->heading, "Not done: Deletes the array.");
     EXPECT_EQ(request.plan->cards[0].fate, "is lost");
+    EXPECT_EQ(request.plan->cards[0].tone, fate_tone::calm);
+    EXPECT_EQ(request.plan->arrow, plan_arrow::none);
     EXPECT_THAT(request.plan->cards[0].warnings, IsEmpty());
     EXPECT_THAT(request.plan->cards[1].warnings, IsEmpty());
 }
