@@ -244,6 +244,9 @@ private:
                       const std::function<bool(std::int32_t chip)>& operation);
     clearance may_begin(const change_plan& plan);
     static clearance compare(const change_plan& plan);
+    // Restarts the first enclosure of the list, unless its volume is used: by whom then. With the
+    // gate held and chips there.
+    static std::vector<volume_use> restart_first();
     void refuse(const std::vector<volume_use>& uses);
     bool goes_on_without_copy(const std::string& trouble);
     void rebuild(array_change direction, const char* question);

@@ -106,6 +106,7 @@ void controller::cleardisk(array_change what, bool port) {
 void controller::warmboot() {
     const controller_t named = extras->restart_target;
     std::vector<volume_use> uses;
+    bool stopped = false; // the monitors, and nothing else
     as_body([&] {
         const gate_scope gate(j.gate);
         // The list may have changed while the click waited.
@@ -118,9 +119,27 @@ void controller::warmboot() {
         }
         disablegui(false);
         ui([this] { show_reasons(*this, reasons_while_restarting(j.with.texts)); });
-        j.warm_boot();
+        uses = restart_first();
+        stopped = !uses.empty();
     });
     refuse(uses);
+    if (stopped) {
+        refresh();
+    }
+}
+
+// A monitor may hold the restart up with a panel for as long as nobody answers, and the volume may
+// be mounted meanwhile: the last look comes after that.
+std::vector<volume_use> controller::restart_first() {
+    krchip& first = j.chips.front();
+    if (first.has_monitors()) {
+        first.stop_monitors();
+        if (std::vector<volume_use> late = j.with.volumes.of(first.device); !late.empty()) {
+            return late;
+        }
+    }
+    j.warm_boot();
+    return {};
 }
 
 change_plan controller::plan_for_selected(array_change what, int mode) {
@@ -174,7 +193,9 @@ controller::clearance controller::may_begin(const change_plan& plan) {
     const std::time_t time = j.with.clock.now();
     const std::string trouble = copies_.keep(safety_copy_text(plan, *chip, time), time);
     if (trouble.empty()) {
-        return now;
+        // Writing the copy takes time as well.
+        const std::vector<volume_use> late = j.with.volumes.of(chip->device);
+        return late.empty() ? now : clearance{outcome::outdated, late};
     }
     if (!goes_on_without_copy(trouble)) {
         return {outcome::outdated, {}};

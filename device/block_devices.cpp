@@ -25,6 +25,11 @@ bool lies_in(const std::string& folder, const std::string& outer) {
 
 } // namespace
 
+bool is_node_of(const std::string& path, const block_device& device) {
+    const bool mapped = device.shown != device.name;
+    return path == "/dev/" + device.name || (mapped && path == "/dev/mapper/" + device.shown);
+}
+
 block_devices::block_devices(std::string sysfs) : sysfs_(std::move(sysfs)) {
     for (const fs::path& link : entries_of(sysfs_ + "/class/block")) {
         add(link);
@@ -86,7 +91,35 @@ std::vector<block_device> block_devices::holders_of(const block_device& held) {
             complete_ = false; // it has come since, and may be used in turn
         }
     }
+    std::copy_if(all_.begin(), all_.end(), std::back_inserter(found),
+                 [&held](const block_device& one) {
+                     return is_node_of(sysfs_attribute(one.folder + "/loop", "backing_file"), held);
+                 });
     return found;
+}
+
+std::vector<std::string> block_devices::file_systems_on(const block_device& device) {
+    std::vector<std::string> found;
+    for (const char* kind : {"ext4", "f2fs", "xfs"}) {
+        if (exists(fs::path(sysfs_) / "fs" / kind / device.name)) {
+            found.emplace_back(kind);
+        }
+    }
+    if (is_in_btrfs(device)) {
+        found.emplace_back("btrfs");
+    }
+    return found;
+}
+
+bool block_devices::is_in_btrfs(const block_device& device) {
+    const fs::path file_systems = sysfs_ + "/fs/btrfs";
+    if (!exists(file_systems)) {
+        return false;
+    }
+    const std::vector<fs::path> all = entries_of(file_systems);
+    return std::any_of(all.begin(), all.end(), [&](const fs::path& file_system) {
+        return exists(file_system / "devices" / device.name);
+    });
 }
 
 std::vector<block_device> block_devices::pool_of(const block_device& member) {

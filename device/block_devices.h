@@ -12,6 +12,9 @@ struct block_device {
     std::string number; // "8:17"
 };
 
+// Whether a path in /dev is that of the device.
+bool is_node_of(const std::string& path, const block_device& device);
+
 // A look at all block devices at the time it is made. One thread at a time. What cannot be read is
 // missing, and noted.
 class block_devices {
@@ -20,8 +23,13 @@ public:
 
     // Disks and partitions whose folder is `folder` or lies below it, by name.
     std::vector<block_device> below(const std::string& folder) const;
-    // The devices that other drivers have put on this one, by name.
+    // The devices that other drivers have put on this one, by name, and then those that show it as
+    // a file of their own (loop devices).
     std::vector<block_device> holders_of(const block_device& held);
+
+    // The kinds of file systems that have it open, mounted somewhere: also where no table of mounts
+    // of ours tells of them. Those that say so in sysfs only.
+    std::vector<std::string> file_systems_on(const block_device& device);
 
     // The device itself, and those that a mounted btrfs lies on together with it: the table of
     // mounts names only one of them.
@@ -33,6 +41,7 @@ public:
 private:
     std::vector<std::filesystem::path> entries_of(const std::filesystem::path& folder); // by name
     bool exists(const std::filesystem::path& path);
+    bool is_in_btrfs(const block_device& device);
     void add(const std::filesystem::path& link);
     std::vector<block_device>::const_iterator find(const std::filesystem::path& link) const;
 

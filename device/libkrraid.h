@@ -29,7 +29,8 @@ enum {
 };
 
 /* Fills list (2048 bytes) with entries of 8 bytes: the handle in host byte order, then four
-   bytes of zero. At most 256. count is the number filled in. */
+   bytes of zero. At most 256. count is the number filled in. The program finds what it knows of
+   a bridge, and whether its volume is in use, by handles of the form of docs/formats.md. */
 int32_t getDeviceList(void* list, int32_t* count);
 
 int32_t openConnection(uint32_t device);

@@ -1,4 +1,4 @@
-// The handle of a bridge that is reached through a SCSI generic node.
+// The handles of bridges that are reached through a SCSI generic node, and of emulated ones.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,14 @@ constexpr std::uint32_t sg_handle(std::uint32_t minor, std::uint64_t arrival) {
            (minor & sg_most_minor);
 }
 
-// Whether it is such a handle.
+// Whether it is one of the emulated bridges'.
+constexpr bool is_emulated_handle(std::uint32_t handle) {
+    constexpr std::uint32_t first = 0x4B520001;
+    constexpr std::uint32_t last = 0x4BFFFFFF;
+    return handle >= first && handle <= last;
+}
+
+// Whether it is a node's.
 constexpr bool is_sg_handle(std::uint32_t handle) {
     return (handle & 0x80000000U) != 0;
 }

@@ -36,11 +36,6 @@ std::optional<std::string> text_of(const std::string& path) {
     return file.is_open() && !file.bad() ? std::optional(text) : std::nullopt;
 }
 
-bool is_node_of(const std::string& path, const block_device& device) {
-    const bool mapped = device.shown != device.name;
-    return path == "/dev/" + device.name || (mapped && path == "/dev/mapper/" + device.shown);
-}
-
 // Of a file system with a number of its own, the source tells what it lies on.
 bool is_mount_of(const mount_entry& mount, const block_device& device,
                  const std::vector<block_device>& pool) {
@@ -66,6 +61,7 @@ private:
     void take_holders();
     std::string table(const std::string& path);
     void find_mounts(const std::string& mountinfo);
+    void find_hidden_mounts();
     void find_swaps(const std::string& swaps);
     void add(volume_use use);
 
@@ -80,6 +76,7 @@ std::vector<volume_use> volume_look::at(const std::string& node, const std::stri
     take_volumes(node);
     take_holders();
     find_mounts(table(proc + "/self/mountinfo"));
+    find_hidden_mounts();
     // A kernel without swap has no table of it.
     const std::string swaps = proc + "/swaps";
     std::error_code trouble;
@@ -146,6 +143,21 @@ void volume_look::find_mounts(const std::string& mountinfo) {
     }
 }
 
+// Mounted in another namespace only, or taken out of the tree of files and still open.
+void volume_look::find_hidden_mounts() {
+    for (const block_device& device : taken_) {
+        const bool told = std::any_of(uses_.begin(), uses_.end(), [&device](const volume_use& use) {
+            return use.kind == volume_use_kind::mounted && use.device == device.shown;
+        });
+        if (told) {
+            continue;
+        }
+        for (const std::string& kind : devices_.file_systems_on(device)) {
+            held_.push_back({volume_use_kind::held, device.shown, kind});
+        }
+    }
+}
+
 void volume_look::find_swaps(const std::string& swaps) {
     const std::vector<std::string> files = swaps_of(swaps);
     for (const block_device& device : taken_) {
@@ -170,7 +182,14 @@ sysfs_volume_uses::sysfs_volume_uses(std::string sysfs, std::string proc)
     : sysfs_(std::move(sysfs)), proc_(std::move(proc)) {}
 
 std::vector<volume_use> sysfs_volume_uses::of(std::uint32_t device) {
-    if (!is_sg_handle(device) || has_gone(device)) {
+    if (is_emulated_handle(device)) {
+        return {};
+    }
+    if (!is_sg_handle(device)) {
+        return {
+            {volume_use_kind::unchecked, {}, {}}}; // another library's, of which nothing is known
+    }
+    if (has_gone(device)) {
         return {};
     }
     const std::vector<volume_use> uses = volume_look(sysfs_).at(node_folder(device), proc_);

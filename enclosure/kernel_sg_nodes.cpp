@@ -9,8 +9,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <memory>
 #include <string>
+#include <thread>
 
 namespace enclosure {
 
@@ -100,6 +102,10 @@ opened_node kernel_sg_nodes::open(const sg_node& node) {
 int kernel_sg_nodes::command(const file_handle& node, sg_io_hdr& request) {
     const undisturbed calm;
     return ::ioctl(node.get(), SG_IO, &request) == 0 ? 0 : errno;
+}
+
+void kernel_sg_nodes::pause() {
+    std::this_thread::sleep_for(std::chrono::milliseconds(250));
 }
 
 } // namespace enclosure

@@ -10,6 +10,7 @@ public:
     std::vector<sg_node> chosen() override;
     opened_node open(const sg_node& node) override;
     int command(const file_handle& node, sg_io_hdr& request) override;
+    void pause() override;
 };
 
 } // namespace enclosure

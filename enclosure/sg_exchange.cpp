@@ -28,14 +28,14 @@ std::optional<delivery> trouble_of(int error, const sg_io_hdr& request) {
 }
 
 sg_io_hdr request_for(std::array<std::uint8_t, longest_cdb>& cdb, std::size_t cdb_size,
-                      std::array<std::uint8_t, longest_sense>& sense) {
+                      std::array<std::uint8_t, longest_sense>& sense, std::chrono::seconds limit) {
     sg_io_hdr request{};
     request.interface_id = 'S';
     request.cmdp = cdb.data();
     request.cmd_len = static_cast<unsigned char>(cdb_size);
     request.sbp = sense.data();
     request.mx_sb_len = static_cast<unsigned char>(sense.size());
-    request.timeout = static_cast<unsigned>(std::chrono::milliseconds(sg_answer_limit).count());
+    request.timeout = static_cast<unsigned>(std::chrono::milliseconds(limit).count());
     return request;
 }
 
@@ -51,17 +51,15 @@ std::size_t received(std::size_t wanted, int residue) {
     return wanted - std::min(wanted, missing);
 }
 
-} // namespace
-
-exchange sg_exchange(sg_nodes& nodes, const file_handle& node, byte_view cdb, byte_view data_out,
-                     std::uint32_t allocation) {
+exchange made_once(sg_nodes& nodes, const file_handle& node, byte_view cdb, byte_view data_out,
+                   std::uint32_t allocation, std::chrono::seconds limit) {
     std::array<std::uint8_t, longest_cdb> command{};
     std::array<std::uint8_t, longest_sense> sense{};
     const std::size_t length = std::min(cdb.size(), command.size());
     std::copy_n(cdb.begin(), length, command.begin());
     std::vector<std::uint8_t> out(data_out.begin(), data_out.end());
     std::vector<std::uint8_t> in(out.empty() ? allocation : 0);
-    sg_io_hdr request = request_for(command, length, sense);
+    sg_io_hdr request = request_for(command, length, sense, limit);
     if (out.empty()) {
         attach(in, SG_DXFER_FROM_DEV, request);
     } else {
@@ -78,6 +76,37 @@ exchange sg_exchange(sg_nodes& nodes, const file_handle& node, byte_view cdb, by
     in.resize(received(in.size(), request.resid));
     reply.data_in = std::move(in);
     return {delivery::answered, std::move(reply)};
+}
+
+// The device refused since something has happened to it, and carried nothing out.
+bool has_news(const exchange& made) {
+    constexpr std::uint8_t unit_attention = 0x06;
+    return made.state == delivery::answered && made.reply.status == scsi_status::check_condition &&
+           decode_sense(made.reply.sense).key == unit_attention;
+}
+
+bool becomes_ready(const exchange& made) {
+    constexpr sense_code becoming_ready{0x02, 0x04, 0x01};
+    return made.state == delivery::answered && made.reply.status == scsi_status::check_condition &&
+           decode_sense(made.reply.sense) == becoming_ready;
+}
+
+} // namespace
+
+exchange sg_exchange(sg_nodes& nodes, const file_handle& node, byte_view cdb, byte_view data_out,
+                     std::uint32_t allocation, std::chrono::seconds limit) {
+    constexpr int most_news = 8;               // a device has a few at once
+    const auto most_waits = limit.count() * 4; // of a quarter of a second
+    const auto once = [&] { return made_once(nodes, node, cdb, data_out, allocation, limit); };
+    exchange made = once();
+    for (int news = 0; news < most_news && has_news(made); ++news) {
+        made = once();
+    }
+    for (std::int64_t wait = 0; wait < most_waits && becomes_ready(made); ++wait) {
+        nodes.pause();
+        made = once();
+    }
+    return made;
 }
 
 } // namespace enclosure

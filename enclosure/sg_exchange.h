@@ -10,10 +10,14 @@ namespace enclosure {
 
 // A disk that has to spin up first answers within that time.
 inline constexpr std::chrono::seconds sg_answer_limit{30};
+// A device that was silent last time is not waited for as long.
+inline constexpr std::chrono::seconds sg_short_limit{3};
 
 // Makes the command and waits for its outcome. At most `allocation` bytes come back; data goes
-// out or comes in, never both. Never throws anything of its own.
+// out or comes in, never both. A command that was not carried out, since the device had something
+// to tell first or is just becoming ready, is made again; the kernel does not do that here. Never
+// throws anything of its own.
 exchange sg_exchange(sg_nodes& nodes, const file_handle& node, byte_view cdb, byte_view data_out,
-                     std::uint32_t allocation);
+                     std::uint32_t allocation, std::chrono::seconds limit = sg_answer_limit);
 
 } // namespace enclosure

@@ -42,6 +42,9 @@ public:
     // Makes the request of sg(4) and waits until it is over, for as long as its time-out allows.
     // 0, or as errno has it.
     virtual int command(const file_handle& node, sg_io_hdr& request) = 0;
+
+    // Lets a quarter of a second pass, in which a device may become ready.
+    virtual void pause() = 0;
 };
 
 } // namespace enclosure

@@ -84,6 +84,7 @@ delivery sg_transport::open(std::uint32_t handle) {
 
 void sg_transport::close(std::uint32_t handle) {
     opened_.erase(handle);
+    silent_.erase(handle);
 }
 
 exchange sg_transport::execute(std::uint32_t handle, byte_view cdb, byte_view data_out,
@@ -92,7 +93,15 @@ exchange sg_transport::execute(std::uint32_t handle, byte_view cdb, byte_view da
     if (opened == opened_.end()) {
         return {delivery::gone, {}};
     }
-    return sg_exchange(nodes_, opened->second, cdb, data_out, allocation);
+    const bool silent = silent_.contains(handle);
+    exchange made = sg_exchange(nodes_, opened->second, cdb, data_out, allocation,
+                                silent ? sg_short_limit : sg_answer_limit);
+    if (made.state == delivery::no_answer) {
+        silent_.insert(handle);
+    } else {
+        silent_.erase(handle);
+    }
+    return made;
 }
 
 } // namespace enclosure

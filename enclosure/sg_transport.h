@@ -27,8 +27,10 @@ private:
     bool knows_our_commands(const file_handle& node);
 
     sg_nodes& nodes_;
-    std::map<std::uint32_t, file_handle> opened_; // by handle
-    std::map<std::uint32_t, bool> tried_; // by handle, while the node is there: is it a bridge
+    // All by handle.
+    std::map<std::uint32_t, file_handle> opened_;
+    std::set<std::uint32_t> silent_;      // whose last command had no answer
+    std::map<std::uint32_t, bool> tried_; // whether it is a bridge, while the node is there
 };
 
 } // namespace enclosure

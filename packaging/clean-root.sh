@@ -33,7 +33,7 @@ open_root() {
     cp /etc/resolv.conf /etc/hosts "$root/etc/"
     printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d"
     chmod +x "$root/usr/sbin/policy-rc.d"
-    inside useradd --create-home tester
+    inside useradd --uid 47110 --create-home tester
 }
 
 # inside COMMAND...: runs it in the clean system, as root.

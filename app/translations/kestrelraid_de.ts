@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1: Es antwortet nicht als RAID-Gehäuse, oder ein anderes Programm verwendet es. Schalten Sie es aus und wieder ein und klicken Sie dann auf „%2“.</translation>
+        <translation>%1: Es antwortet nicht als RAID-Gehäuse, oder ein anderes Programm verwendet es. Werfen Sie das Laufwerk aus, schalten Sie das Gehäuse aus und wieder ein und klicken Sie dann auf „%2“.</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>Trennen Sie das Gehäuse und schließen Sie es wieder an.</translation>
+        <translation>Werfen Sie das Laufwerk aus, trennen Sie das Gehäuse und schließen Sie es wieder an.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1: it does not answer as a RAID enclosure, or another program is using it. Switch it off and on again, then press “%2”.</translation>
+        <translation>%1: it does not answer as a RAID enclosure, or another program is using it. Eject its volume, switch it off and on again, then press “%2”.</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>Disconnect the enclosure and connect it again.</translation>
+        <translation>Eject its volume, then disconnect the enclosure and connect it again.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 está conectada, pero no responde como caja RAID, o la usa otro programa. Apáguela, vuelva a encenderla y pulse «%2».</translation>
+        <translation>%1 está conectada, pero no responde como caja RAID, o la usa otro programa. Expulse su volumen, apáguela, vuelva a encenderla y pulse «%2».</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>Desconecte la caja y vuelva a conectarla.</translation>
+        <translation>Expulse su volumen, desconecte la caja y vuelva a conectarla.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

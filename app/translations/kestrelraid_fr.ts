@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 est connecté, mais ne répond pas comme un boîtier RAID, ou un autre programme l’utilise. Éteignez-le, rallumez-le, puis cliquez sur « %2 ».</translation>
+        <translation>%1 est connecté, mais ne répond pas comme un boîtier RAID, ou un autre programme l’utilise. Éjectez son volume, éteignez et rallumez le boîtier, puis cliquez sur « %2 ».</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>Débranchez le boîtier et rebranchez-le.</translation>
+        <translation>Éjectez son volume, puis débranchez le boîtier et rebranchez-le.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 è collegato, ma non risponde come box RAID, oppure lo usa un altro programma. Spegnerlo e riaccenderlo, poi premere «%2».</translation>
+        <translation>%1 è collegato, ma non risponde come box RAID, oppure lo usa un altro programma. Espellere il volume, spegnere e riaccendere il box, poi premere «%2».</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>Scollegare il box e ricollegarlo.</translation>
+        <translation>Espellere il volume, poi scollegare il box e ricollegarlo.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1は接続されていますが、RAIDケースとして応答しないか、別のプログラムが使用中です。電源を入れ直してから、「%2」を押してください。</translation>
+        <translation>%1は接続されていますが、RAIDケースとして応答しないか、別のプログラムが使用中です。ボリュームを取り出し、電源を入れ直してから、「%2」を押してください。</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>ケースをいったん取り外し、接続し直してください。</translation>
+        <translation>ボリュームを取り出してから、ケースをいったん取り外し、接続し直してください。</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

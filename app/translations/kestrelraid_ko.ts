@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1이(가) 연결되어 있지만 RAID 인클로저로 응답하지 않거나 다른 프로그램이 사용 중입니다. 전원을 껐다 켠 다음 ‘%2’ 버튼을 누르십시오.</translation>
+        <translation>%1이(가) 연결되어 있지만 RAID 인클로저로 응답하지 않거나 다른 프로그램이 사용 중입니다. 볼륨을 꺼내고 전원을 껐다 켠 다음 ‘%2’ 버튼을 누르십시오.</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>인클로저를 분리했다가 다시 연결하십시오.</translation>
+        <translation>볼륨을 꺼낸 다음 인클로저를 분리했다가 다시 연결하십시오.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 已连接，但没有作为 RAID 硬盘盒响应，或正被其他程序使用。请关闭电源再打开，然后点击“%2”。</translation>
+        <translation>%1 已连接，但没有作为 RAID 硬盘盒响应，或正被其他程序使用。请先弹出其卷，关闭电源再打开，然后点击“%2”。</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>请断开硬盘盒，再重新连接。</translation>
+        <translation>请先弹出其卷，再断开硬盘盒并重新连接。</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 已連接，但沒有以 RAID 外接盒回應，或正由其他程式使用。請關閉電源再開啟，然後按「%2」。</translation>
+        <translation>%1 已連接，但沒有以 RAID 外接盒回應，或正由其他程式使用。請先退出其磁碟區，關閉電源再開啟，然後按「%2」。</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -669,7 +669,7 @@
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>請拔除外接盒，再重新連接。</translation>
+        <translation>請先退出其磁碟區，再拔除外接盒並重新連接。</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

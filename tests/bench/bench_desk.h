@@ -6,7 +6,8 @@
 #include <set>
 #include <thread>
 
-#include "device/emulated_registry.h"
+#include "device/emulated_bus.h"
+#include "device/source_registry.h"
 
 // Follows the session bus from the first have() to its own end. One thread.
 class bench_desk {
@@ -16,7 +17,7 @@ public:
     bench_desk(const bench_desk&) = delete;
     bench_desk& operator=(const bench_desk&) = delete;
 
-    emulated_registry& registry() { return registry_; }
+    source_registry& registry() { return registry_; }
 
     // Makes and plugs mirrors, or unplugs some, and returns when the registry knows just `count`.
     // Ends the process with a line on standard error when there is no bus.
@@ -26,7 +27,7 @@ private:
     void listen();
     void take(std::uint32_t iterator);
 
-    emulated_registry registry_;
+    source_registry registry_{std::make_unique<emulated_bus>()};
     std::thread events_;
     std::mutex mutex_;
     std::condition_variable changed_;

@@ -1,4 +1,5 @@
-#include "device/emulated_registry.h"
+#include "device/emulated_bus.h"
+#include "device/source_registry.h"
 
 #include "tests/enclosure/host_process.h"
 #include "tests/enclosure/private_bus.h"
@@ -40,7 +41,7 @@ public:
     // Called within the handlers, after the event has been taken.
     std::function<void(const heard_event&)> within;
 
-    explicit notification_thread(emulated_registry& registry) : registry_(registry) {}
+    explicit notification_thread(source_registry& registry) : registry_(registry) {}
 
     ~notification_thread() { finish(); }
 
@@ -94,7 +95,7 @@ private:
         happened_.notify_all();
     }
 
-    emulated_registry& registry_;
+    source_registry& registry_;
     std::thread thread_;
     std::mutex mutex_;
     std::condition_variable happened_;
@@ -125,7 +126,7 @@ protected:
         return registry_.name(entry);
     }
 
-    emulated_registry registry_;
+    source_registry registry_{std::make_unique<emulated_bus>()};
     notification_thread thread_{registry_};
 };
 

@@ -1,5 +1,6 @@
 // A service that does not tell its bridges when it is first asked.
-#include "device/emulated_registry.h"
+#include "device/emulated_bus.h"
+#include "device/source_registry.h"
 #include "enclosure/dbus_names.h"
 
 #include <gtest/gtest.h>
@@ -56,7 +57,7 @@ private:
 
 TEST(LateListing, ABridgeThatWasNotToldAtFirstIsKnownWhenItIsAskedFor) {
     reluctant_service service;
-    emulated_registry registry;
+    source_registry registry{std::make_unique<emulated_bus>()};
     testing::internal::CaptureStderr();
     ASSERT_TRUE(registry.match(bridge_class));
     EXPECT_EQ(testing::internal::GetCapturedStderr().find("enclosure service does not list"), 0U);
@@ -67,7 +68,7 @@ TEST(LateListing, ABridgeThatWasNotToldAtFirstIsKnownWhenItIsAskedFor) {
 
 TEST(LateListing, ABridgeThatWasNotToldAtFirstArrivesWithoutAnotherEvent) {
     reluctant_service service;
-    emulated_registry registry;
+    source_registry registry{std::make_unique<emulated_bus>()};
     std::vector<std::uint32_t> arrived;
     testing::internal::CaptureStderr();
     ASSERT_TRUE(registry.match(bridge_class));

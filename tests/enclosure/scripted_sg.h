@@ -20,6 +20,7 @@ public:
     std::map<std::uint32_t, int> errors_of_open; // by minor number
     outcome on_command = [](sg_io_hdr&) { return 0; };
     int opened = 0; // how often
+    int pauses = 0;
     std::vector<std::vector<std::uint8_t>> commands;
 
     std::vector<enclosure::sg_node> chosen() override { return there; }
@@ -36,6 +37,8 @@ public:
         commands.emplace_back(request.cmdp, request.cmdp + request.cmd_len);
         return on_command(request);
     }
+
+    void pause() override { ++pauses; }
 
     // An answer with check condition and that sense data.
     static outcome refusing(std::vector<std::uint8_t> sense) {

@@ -131,6 +131,40 @@ TEST_F(SgExchange, OneThatIsNotOursToUseIsToldApart) {
     EXPECT_EQ(without_answer(EACCES, 0), delivery::not_permitted);
 }
 
+TEST_F(SgExchange, WhatADeviceHasToTellFirstIsHeardAndTheCommandMadeAgain) {
+    int news = 2;
+    nodes_.on_command = [&news](sg_io_hdr& request) {
+        return news-- > 0
+                   ? scripted_sg::refusing(enclosure::sense_bytes({0x06, 0x29, 0x00}))(request)
+                   : 0;
+    };
+    EXPECT_EQ(made().reply.status, scsi_status::good);
+    EXPECT_EQ(nodes_.commands.size(), 3U);
+    EXPECT_EQ(nodes_.pauses, 0);
+}
+
+TEST_F(SgExchange, ADeviceThatHasNewsForEverIsNotListenedToForEver) {
+    nodes_.on_command = scripted_sg::refusing(enclosure::sense_bytes({0x06, 0x29, 0x00}));
+    EXPECT_EQ(made().reply.status, scsi_status::check_condition);
+    EXPECT_EQ(nodes_.commands.size(), 9U);
+}
+
+TEST_F(SgExchange, ADeviceThatIsBecomingReadyIsWaitedFor) {
+    nodes_.on_command = [this](sg_io_hdr& request) {
+        return nodes_.pauses < 5
+                   ? scripted_sg::refusing(enclosure::sense_bytes({0x02, 0x04, 0x01}))(request)
+                   : 0;
+    };
+    EXPECT_EQ(made().reply.status, scsi_status::good);
+    EXPECT_EQ(nodes_.pauses, 5);
+}
+
+TEST_F(SgExchange, ADeviceThatNeverBecomesReadyIsWaitedForHalfAMinute) {
+    nodes_.on_command = scripted_sg::refusing(enclosure::sense_bytes({0x02, 0x04, 0x01}));
+    EXPECT_EQ(made().reply.status, scsi_status::check_condition);
+    EXPECT_EQ(nodes_.pauses, 120); // of a quarter of a second
+}
+
 TEST_F(SgExchange, SenseThatIsAnnouncedByTheDriverIsAnAnswer) {
     EXPECT_EQ(without_answer(0, 0, 0x08), delivery::answered);
 }

@@ -122,6 +122,25 @@ TEST_F(SgTransport, TheLibrarySaysWhyACommandHadNoAnswer) {
     EXPECT_EQ(library.connections(), 0U);
 }
 
+TEST_F(SgTransport, ASilentBridgeIsWaitedForShortlyUntilItAnswersAgain) {
+    const std::uint32_t device = sg_handle_of(first);
+    ASSERT_EQ(way_.open(device), delivery::answered);
+    int outcome = EIO;
+    std::vector<unsigned> limits; // seconds
+    nodes_.on_command = [&](sg_io_hdr& request) {
+        limits.push_back(request.timeout / 1000);
+        return outcome;
+    };
+    const std::array<std::uint8_t, 16> command{};
+    const auto ask = [&] { way_.execute(device, command, {}, 0); };
+    ask();
+    ask();
+    outcome = 0;
+    ask();
+    ask();
+    EXPECT_EQ(limits, (std::vector<unsigned>{30, 3, 3, 30}));
+}
+
 TEST_F(SgTransport, ConnectionsOfNodesThatWentAreClosedByTheNextListing) {
     enclosure::bridge_access library(way_);
     ASSERT_EQ(library.openConnection(sg_handle_of(first)), KRRAID_DONE);

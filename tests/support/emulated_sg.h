@@ -18,6 +18,7 @@ public:
     std::vector<enclosure::sg_node> chosen() override;
     enclosure::opened_node open(const enclosure::sg_node& node) override;
     int command(const enclosure::file_handle& node, sg_io_hdr& request) override;
+    void pause() override {}
 
     // The node of a bridge on the bus; number 0 when it has none.
     enclosure::sg_node node_of(std::uint32_t bridge);

@@ -563,6 +563,31 @@ TEST_F(in_use, VolumeKeepsTheFirstEnclosureFromBeingRestarted) {
     EXPECT_TRUE(window->idle());
 }
 
+TEST_F(in_use, VolumeThatIsMountedWhileAMonitorHoldsUpTheRestartIsFoundOut) {
+    read_named_bridge();
+    threads.reset(); // the thread for hot-plug events stays away
+    {
+        const gate_scope work(j.gate);
+        j.chips[0].start_raid1_timer();
+    }
+    j.warm_boot_pending = false;
+    volumes.on_nth_look(2, [this] { volumes.mount(device, "/media/a"); });
+    press(window->extras->warmbootbutton);
+    EXPECT_EQ(talk().back(), refusal);
+    EXPECT_EQ(restarts(), 0U);
+    EXPECT_FALSE(j.warm_boot_pending);
+    EXPECT_EQ(log.count("getDeviceList"), 1U) << "which starts the monitors again";
+}
+
+TEST_F(in_use, VolumeThatIsMountedWhileTheCopyIsKeptIsFoundOutToo) {
+    take_mirror();
+    copies.while_kept = [this] { volumes.mount(device, "/media/a"); };
+    press(window->clearconfigbutton);
+    EXPECT_EQ(talk().back(), refusal);
+    EXPECT_EQ(writes(), 0U);
+    EXPECT_EQ(log.count("getDeviceList"), 1U) << "which starts the monitors again";
+}
+
 TEST_F(in_use, VolumeOfTheSelectedEnclosureDoesNotMatterToTheRestartOfTheFirst) {
     forget_all();
     attach(device, usb_bridge(1, 2, 0x100, u"ABC"), memory_disk(disk_a()), memory_disk(disk_b()));

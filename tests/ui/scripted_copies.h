@@ -13,10 +13,14 @@ public:
 
     std::string trouble; // why the coming copies cannot be kept
     std::string last;
+    std::function<void()> while_kept; // runs when a copy is kept
 
     std::string keep(const std::string& text, std::time_t /*now*/) override {
         log_.add(from_window, trouble.empty() ? "copy kept" : "copy not kept");
         last = text;
+        if (while_kept) {
+            while_kept();
+        }
         return trouble;
     }
 

@@ -220,6 +220,41 @@ TEST_F(VolumeUses, OfABridgeThatHasGoneAreNone) {
     EXPECT_THAT(uses(), IsEmpty());
 }
 
+TEST_F(VolumeUses, OfALoopDeviceAndWhatIsMountedOnIt) {
+    tree_.add_block("virtual/block", "loop0", "7:0");
+    tree_.add_block("virtual/block", "loop1", "7:1");
+    tree_.write("sys/devices/virtual/block/loop0/loop/backing_file", "/dev/sdb1\n");
+    tree_.write("sys/devices/virtual/block/loop1/loop/backing_file", "/dev/sdb11\n");
+    tree_.mount("7:0", "/mnt/rescue", "/dev/loop0");
+    tree_.mount("7:1", "/mnt/other", "/dev/loop1");
+    EXPECT_THAT(uses(), ElementsAre(mounted("loop0", "/mnt/rescue"), held("sdb1", "loop0")));
+}
+
+TEST_F(VolumeUses, OfAFileSystemThatNoTableOfOursTellsOf) {
+    tree_.write("sys/fs/ext4/features/verity", "");
+    tree_.write("sys/fs/ext4/sdb2/errors_count", "0\n");
+    tree_.write("sys/fs/xfs/sda1/stats/stats", "");
+    EXPECT_THAT(uses(), ElementsAre(held("sdb2", "ext4")));
+}
+
+TEST_F(VolumeUses, OfABtrfsThatNoTableOfOursTellsOf) {
+    tree_.write("sys/fs/btrfs/1111-aaaa/devices/sdb1/dev", "");
+    EXPECT_THAT(uses(), ElementsAre(held("sdb1", "btrfs")));
+}
+
+TEST_F(VolumeUses, OfAMountedFileSystemAreToldOnce) {
+    tree_.write("sys/fs/ext4/sdb2/errors_count", "0\n");
+    tree_.mount("8:18", "/media/a", "/dev/sdb2");
+    EXPECT_THAT(uses(), ElementsAre(mounted("sdb2", "/media/a")));
+}
+
+TEST_F(VolumeUses, OfABridgeOfAnotherLibrarysHandleAreUnchecked) {
+    EXPECT_THAT(uses_of(0), ElementsAre(unchecked));
+    EXPECT_THAT(uses_of(21U << 8), ElementsAre(unchecked)); // a device number, say
+    EXPECT_THAT(uses_of(0x4B520000), ElementsAre(unchecked));
+    EXPECT_THAT(uses_of(0x4C000000), ElementsAre(unchecked));
+}
+
 TEST_F(VolumeUses, OfAnEmulatedBridgeAreNoneWhateverCanBeRead) {
     tree_.remove("sys");
     tree_.remove("proc");

@@ -26,12 +26,14 @@ class Machine(threading.Thread):
         super().__init__()
         self.tests = tests
         self.passed = False
+        self.count = 0
         self.console = subprocess.Popen(command(folder, tests), stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                         text=True, errors="replace")
 
     def run(self):
         for line in self.console.stdout:
             print(f"{self.tests} {line.rstrip()}", flush=True)
+            self.count += sum(map(int, re.findall(r"^\[  PASSED  \] (\d+) tests?\.", line)))
             self.passed = self.passed or re.match(r"kestrel: ended with 0\b", line) is not None
         if self.console.wait() == 124:
             print(f"{self.tests} did not end within {LIMIT} seconds", file=sys.stderr)
@@ -46,7 +48,8 @@ def main(folder, *filters):
     for machine in machines:
         machine.join()
     for machine in machines:
-        print(f"{machine.tests} {'passed' if machine.passed else 'FAILED'}")
+        machine.passed = machine.passed and machine.count > 0
+        print(f"{machine.tests} {'passed' if machine.passed else 'FAILED'}, {machine.count} tests")
     print(f"{len(machines)} virtual machines in {time.monotonic() - began:.0f} s")
     return 0 if all(machine.passed for machine in machines) else 1
 

@@ -10,6 +10,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 namespace {
 
 using testing::ElementsAre;
@@ -57,6 +59,24 @@ TEST_F(VolumeInUse, IsASwapAreaOnAPartition) {
     run("swapon /dev/" + partition);
     EXPECT_THAT(uses(), ElementsAre(volume_use{volume_use_kind::swap, partition, ""}));
     run("swapoff /dev/" + partition);
+    EXPECT_THAT(uses(), IsEmpty());
+}
+
+TEST_F(VolumeInUse, IsALoopDevice) {
+    run("losetup /dev/loop0 /dev/" + volume_);
+    EXPECT_THAT(uses(), ElementsAre(volume_use{volume_use_kind::held, volume_, "loop0"}));
+    run("losetup -d /dev/loop0");
+    EXPECT_THAT(uses(), IsEmpty());
+}
+
+TEST_F(VolumeInUse, IsAFileSystemThatWasTakenOutOfTheTreeAndIsStillOpen) {
+    make_file_system(volume_);
+    {
+        const mounted now(volume_);
+        const std::ofstream open_file(mounted::place() + "/open");
+        run("umount -l " + mounted::place());
+        EXPECT_THAT(uses(), ElementsAre(volume_use{volume_use_kind::held, volume_, "ext4"}));
+    }
     EXPECT_THAT(uses(), IsEmpty());
 }
 
