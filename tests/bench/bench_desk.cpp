@@ -54,7 +54,7 @@ void bench_desk::have(int count) {
         listen();
     }
     for (; made_ < count; ++made_) {
-        krenclosure("new " + name_of(made_) + " --usb");
+        krenclosure("new " + name_of(made_) + " --usb --restart-delay 0");
         krenclosure("scenario " + name_of(made_) + " raid1");
     }
     for (; plugged_ < count; ++plugged_) {
@@ -65,4 +65,11 @@ void bench_desk::have(int count) {
     }
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [&] { return static_cast<int>(attached_.size()) == count; });
+}
+
+void bench_desk::await_return_of(std::uint32_t former) {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [&] {
+        return !attached_.contains(former) && static_cast<int>(attached_.size()) == plugged_;
+    });
 }

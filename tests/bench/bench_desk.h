@@ -23,6 +23,9 @@ public:
     // Ends the process with a line on standard error when there is no bus.
     void have(int count);
 
+    // Returns when the registry knows another bridge in place of that one, after a restart.
+    void await_return_of(std::uint32_t former);
+
 private:
     void listen();
     void take(std::uint32_t iterator);

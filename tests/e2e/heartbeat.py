@@ -1,7 +1,9 @@
 """The window answers at once while a large mirror is created, copied, deleted and read, and is clicked about."""
 
 import itertools
+import json
 import os
+import sys
 
 from disks import Disk
 from kestrel import Failure, Program, check, enclosure, enclosures, run, texts, wait_for
@@ -92,6 +94,9 @@ def it_is_deleted():
 def the_window_was_there_all_the_time():
     pulse.stop()
     print(pulse.report(), flush=True)
+    if len(sys.argv) > 2:  # where the benchmarks want the figures
+        with open(sys.argv[2], "w", encoding="utf-8") as file:
+            json.dump({"answers": pulse.answers, "served": pulse.served, "machine": pulse.machine}, file)
     if pulse.hangs or pulse.longest() > HANG:
         raise Failure(f"the window hung for {pulse.longest():.1f} s")
     check("status", program.end()[0], 0)
