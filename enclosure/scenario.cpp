@@ -95,15 +95,17 @@ void write_records(scenario state, disk& first, disk& second) {
         throw problem("disks '" + first.name() + "' and '" + second.name() +
                       "' are too small for an array; take larger ones");
     }
-    array_record of_first{
-        kind,           0, state == scenario::rebuild, sectors, identity_of(second.identity()),
-        stamp_of(later)};
-    array_record of_second{kind,
-                           1,
-                           false,
-                           sectors,
-                           identity_of(first.identity()),
-                           stamp_of(state == scenario::diverged ? earlier : later)};
+    const bool diverged = state == scenario::diverged;
+    // The half that ran alone names nobody.
+    const raw_identity beside_first = diverged ? raw_identity{} : identity_of(second.identity());
+    const array_record of_first{
+        kind, 0, state == scenario::rebuild, sectors, beside_first, stamp_of(later)};
+    const array_record of_second{kind,
+                                 1,
+                                 false,
+                                 sectors,
+                                 identity_of(first.identity()),
+                                 stamp_of(diverged ? earlier : later)};
     write_sector(first, write_record(of_first));
     write_sector(second, write_record(of_second));
 }
