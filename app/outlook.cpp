@@ -145,12 +145,20 @@ bool belong_together(const krdisk& one, const krdisk& other) {
     return suits(one, other) && suits(other, one) && one.raid_capacity == other.raid_capacity;
 }
 
+// Written while its partner was away: it names nobody, or the enclosure has marked its time. A
+// later record that names its partner is what a change has left that was cut off before the other
+// one, so it tells nothing of the data.
+bool ran_alone(const krdisk& disk) {
+    return disk.names_nobody() || disk.raid_time.back() != 0;
+}
+
 std::string advice_on_two_copies(const krchip& chip, const text_lookup& texts) {
     if (!belong_together(chip.disks[0], chip.disks[1])) {
         return texts.text("ui_advice_differ_undated");
     }
     for (std::size_t port = 0; port < chip.disks.size(); ++port) {
-        if (chip.disks[port].rebuild_role == role_later) {
+        const krdisk& disk = chip.disks[port];
+        if (disk.rebuild_role == role_later && ran_alone(disk)) {
             return filled(texts.text("ui_advice_differ"), {number_of(port)});
         }
     }

@@ -123,15 +123,17 @@ void check_copy(finding& made, const power_case& one, const disk_pair& left,
 }
 
 // Which disk is in danger of being taken for the one that counts.
-void add_dangers(finding& made, const power_case& one, const undisturbed_change& change,
+void add_dangers(finding& made, const power_case& one, const program_reading& program,
                  const chip_reading& chip) {
     if (!one.copy_source || made.is == found::before) {
         return;
     }
     const int target = 1 - *one.copy_source;
-    if (made.is == found::differ && chip.read_port == target &&
-        !same_records(change.start, change.end)) {
+    if (made.is == found::differ && chip.read_port == target) {
         made.remarks.insert(remark::target_later);
+        if (program.names_later_copy) {
+            made.fault = "the disk to be overwritten is called the more recent one";
+        }
     }
     if (made.is == found::degraded && chip.read_port == target) {
         made.remarks.insert(remark::unfinished_half);
@@ -177,6 +179,6 @@ finding judge(const power_case& one, const undisturbed_change& change, const dis
     }
     check_copy(made, one, left, program, chip);
     add_heads(made, change, left);
-    add_dangers(made, one, change, chip);
+    add_dangers(made, one, program, chip);
     return made;
 }

@@ -177,6 +177,19 @@ TEST_F(outlooks, TwoCopiesThatDifferNameTheLaterRecord) {
     EXPECT_THAT(now().sides[0].record, IsEmpty());
 }
 
+// The disk that was to be overwritten may be the one with the later record then.
+TEST_F(outlooks, TheLaterRecordOfARebuildThatAPowerCutPreventedIsNotCalledTheMoreRecent) {
+    array_of(mode_raid1);
+    chip.raid_valid = 0;
+    krdisk& later = chip.disks[1];
+    later.rebuild_role = 1;
+    chip.disks[0].identify_serial_raw[0] = 'A';
+    later.partner_serial_raw[0] = 'A';
+    EXPECT_THAT(now().advice, HasSubstr("do not match"));
+    later.raid_time.back() = 2; // written to without its partner
+    EXPECT_THAT(now().advice, HasSubstr("the record on Disk 2 is the more recent"));
+}
+
 TEST_F(outlooks, CopiesAreOfTheSameMirrorOnlyWhenTheirRecordsSaySo) {
     array_of(mode_raid1);
     chip.raid_valid = 0;
