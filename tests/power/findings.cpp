@@ -66,7 +66,8 @@ void add_heads(finding& made, const undisturbed_change& change, const disk_pair&
         }
         const sector_bytes head = sector_of(*left[port], 0);
         const sector_bytes record = record_of(left, port);
-        if (made.is == found::before && head != sector_of(*change.start[port], 0)) {
+        if (made.is == found::before && head == sector_bytes{} &&
+            head != sector_of(*change.start[port], 0)) {
             made.remarks.insert(remark::head_gone);
         }
         if (record != record_of(change.start, port) && record == record_of(change.end, port) &&
@@ -124,9 +125,12 @@ void check_copy(finding& made, const power_case& one, const disk_pair& left,
 
 // Which disk is in danger of being taken for the one that counts.
 void add_dangers(finding& made, const power_case& one, const program_reading& program,
-                 const chip_reading& chip) {
+                 const disk_pair& left, const chip_reading& chip) {
     if (!one.copy_source || made.is == found::before) {
         return;
+    }
+    if (program.is == verdict::healthy && sector_of(*left[0], 0) != sector_of(*left[1], 0)) {
+        made.remarks.insert(remark::copy_lost);
     }
     const int target = 1 - *one.copy_source;
     if (made.is == found::differ && chip.read_port == target) {
@@ -179,6 +183,6 @@ finding judge(const power_case& one, const undisturbed_change& change, const dis
     }
     check_copy(made, one, left, program, chip);
     add_heads(made, change, left);
-    add_dangers(made, one, program, chip);
+    add_dangers(made, one, program, left, chip);
     return made;
 }

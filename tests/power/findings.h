@@ -26,6 +26,7 @@ enum class remark : char {
     not_named = 'H',         // a mirror in order, of which one half names no partner
     tail_left = 'I',         // the second half of an erased record is still there
     copy_of_two_times = 'J', // a copy runs, and its records will not be of one time after it
+    copy_lost = 'K',         // a mirror in order, of which one half lacks what a copy had brought
 };
 
 struct undisturbed_change {

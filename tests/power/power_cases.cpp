@@ -122,15 +122,27 @@ void add_selections(std::vector<power_case>& cases) {
     }
 }
 
+power_case end_of_copy(const disk_start& start, std::size_t source) {
+    power_case one = case_of("Clear the mark", start);
+    one.act = [](krchip& chip) {
+        chip.clear_rebuild(false);
+        chip.clear_rebuild(true);
+    };
+    one.copy_source = static_cast<int>(source);
+    return one;
+}
+
 void add_ends_of_copies(std::vector<power_case>& cases) {
-    for (const int source : {0, 1}) {
-        power_case one = case_of("Clear the mark", copied_start(static_cast<std::size_t>(source)));
-        one.act = [](krchip& chip) {
-            chip.clear_rebuild(false);
-            chip.clear_rebuild(true);
-        };
-        one.copy_source = source;
-        cases.push_back(one);
+    for (const std::size_t source : {std::size_t{0}, std::size_t{1}}) {
+        disk_start start = copied_start(source);
+        cases.push_back(end_of_copy(start, source));
+        // The same with a part of the copy in the target's cache: here, its first sector.
+        const std::size_t target = 1 - source;
+        start.name += ", not flushed";
+        start.disks.at(target)->sectors[0] = sector_of(*plain_disks().at(target), 1);
+        power_case cached = end_of_copy(start, source);
+        cached.unflushed = {{false, target, 0, sector_of(*start.disks.at(source), 0)}};
+        cases.push_back(cached);
     }
 }
 

@@ -10,11 +10,14 @@
 #include "app/status_display.h"
 #include "model/krchip.h"
 #include "tests/power/disk_pair.h"
+#include "tests/power/power_cuts.h"
 
 struct power_case {
     std::string change; // "Create a mirror"
     std::string start;  // "a stripe"
     disk_pair disks;
+    // What the chip has written and not flushed when the change begins.
+    disk_events unflushed;
     std::function<void(krchip&)> act;
     // Whether its button is on. Nothing for what the program does by itself.
     std::function<bool(const view_state&)> offered;

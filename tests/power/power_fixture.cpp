@@ -53,9 +53,8 @@ disk_events power_test::act(disk_pair& disks, const action& what) {
     return act(disks, [&what](krchip& chip, const view_state& /*shown*/) { what(chip); });
 }
 
-void power_test::come_back(disk_pair& disks) {
-    chip_.power_on(disks);
-    const disk_events events = act(disks, [](krchip& chip) {
+disk_events power_test::let_program_react(disk_pair& disks) {
+    disk_events events = act(disks, [](krchip& chip) {
         const bool copied = chip.raid_valid != 0 && chip.rebuild_pending != 0;
         chip.select_chip();
         if (copied) {
@@ -67,4 +66,10 @@ void power_test::come_back(disk_pair& disks) {
         EXPECT_TRUE(event.is_flush || is_record_write(disks, event))
             << "a write beside the records, at sector " << event.lba;
     }
+    return events;
+}
+
+void power_test::come_back(disk_pair& disks) {
+    switch_on(disks);
+    let_program_react(disks);
 }

@@ -31,9 +31,12 @@ protected:
     disk_events act(disk_pair& disks, const informed_action& what);
     disk_events act(disk_pair& disks, const action& what);
 
-    // Power comes back: the chip reads the disks and copies what it is asked to, the program
-    // selects the chip and, if a copy was made, clears its mark. Nothing of the program's goes
-    // anywhere but to RAID records.
+    // Power comes back: the chip reads the disks and copies what it is asked to.
+    void switch_on(disk_pair& disks) { chip_.power_on(disks); }
+    // The program selects the chip and, if a copy was made, clears its mark. Fails the test for a
+    // write to anything but a RAID record.
+    disk_events let_program_react(disk_pair& disks);
+    // Both.
     void come_back(disk_pair& disks);
 
 private:

@@ -32,7 +32,7 @@ std::string line_of(const case_tally& row) {
     for (const cut_count& count : row.endings) {
         line += cell(text_of(count));
     }
-    return line + "\n";
+    return line + cell(text_of(row.second_cuts)) + "\n";
 }
 
 } // namespace
@@ -59,6 +59,7 @@ void case_tally::add(const case_tally& other) {
     for (std::size_t i = 0; i < endings.size(); ++i) {
         endings.at(i).add(other.endings.at(i));
     }
+    second_cuts.add(other.second_cuts);
     for (const auto& [which, count] : other.remarks) {
         remarks[which].add(count);
     }
@@ -67,8 +68,9 @@ void case_tally::add(const case_tally& other) {
 std::string table_of(const std::vector<case_tally>& rows) {
     std::string text =
         "| Change | Found | Cuts | as before | as after | in order | copying | degraded | copies "
-        "differ | broken | no array | Remarks | by itself | again | way out | leftovers |\n"
-        "|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|\n";
+        "differ | broken | no array | Remarks | by itself | again | way out | leftovers | "
+        "unnoticed | Cut again |\n"
+        "|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|\n";
     case_tally sum;
     sum.change = "All";
     for (const case_tally& row : rows) {

@@ -14,8 +14,9 @@ enum class ending {
     again,      // by the same change once more
     by_way_out, // as the manual says
     leftovers,  // the same, but first sectors or the rest of a record that belongs to no array
+    unnoticed,  // not at all: nothing tells that something is missing
 };
-inline constexpr std::size_t ending_kinds = 4;
+inline constexpr std::size_t ending_kinds = 5;
 
 // Cuts that leave whole sectors, and those that tear a record.
 struct cut_count {
@@ -34,6 +35,7 @@ struct case_tally {
     std::array<cut_count, found_kinds> findings;
     std::map<remark, cut_count> remarks;
     std::array<cut_count, ending_kinds> endings;
+    cut_count second_cuts; // while the program acts on what another cut has left
 
     void add(const finding& what, ending how, bool torn);
     void add(const case_tally& other);
