@@ -42,14 +42,9 @@ enclosure::port_view view_of(const std::optional<memory_disk>& disk) {
     return view;
 }
 
-void take_up(memory_disk& to, enclosure::disk& from, const disk_contents& before) {
-    to.sectors.clear();
-    for (const auto& content : before) {
-        for (const auto& [lba, unused] : content) {
-            if (lba < to.size && !from.image().read(lba, to.sectors[lba])) {
-                throw std::runtime_error("an image cannot be read");
-            }
-        }
+void require(bool done) {
+    if (!done) {
+        throw std::runtime_error("an image cannot be read or written");
     }
 }
 
@@ -74,24 +69,40 @@ chip_reading chip_bench::read(const disk_pair& disks) {
     return reading;
 }
 
-std::shared_ptr<enclosure::disk> chip_bench::lay_down(std::size_t port,
-                                                      const memory_disk& content) {
+void chip_bench::lay_down(std::size_t port, const disk_content& wanted) {
     enclosure::disk_image& image = disks_.at(port)->image();
-    bool done = image.clear(0, image.sectors());
-    for (const auto& [lba, data] : content.sectors) {
-        done = image.write(lba, data) && done;
+    disk_content& laid = laid_.at(port);
+    for (const auto& [lba, unused] : laid) {
+        require(wanted.contains(lba) || image.clear(lba, 1));
     }
-    if (!done) {
-        throw std::runtime_error("an image cannot be written");
+    for (const auto& [lba, data] : wanted) {
+        const auto found = laid.find(lba);
+        require((found != laid.end() && found->second == data) || image.write(lba, data));
     }
-    return disks_[port];
+    laid = wanted;
+}
+
+void chip_bench::take_up(std::size_t port, disk_content& to, const disk_content& from_source) {
+    const enclosure::disk_image& image = disks_.at(port)->image();
+    for (const auto& [lba, unused] : from_source) {
+        if (lba < image.sectors()) {
+            to.try_emplace(lba); // may have been copied
+        }
+    }
+    for (auto& [lba, data] : to) {
+        require(image.read(lba, data));
+    }
+    std::erase_if(to, [](const auto& entry) { return entry.second == sector_bytes{}; });
+    laid_.at(port) = to;
 }
 
 void chip_bench::power_on(disk_pair& disks) {
+    drop_empty_sectors(disks);
     enclosure::bays bays;
     for (std::size_t port = 0; port < disks.size(); ++port) {
         if (disks[port]) {
-            bays.insert(static_cast<int>(port), lay_down(port, *disks[port]));
+            lay_down(port, disks[port]->sectors);
+            bays.insert(static_cast<int>(port), disks_[port]);
         }
     }
     const std::optional<enclosure::copy_order> expected = read(disks).copy;
@@ -107,10 +118,8 @@ void chip_bench::power_on(disk_pair& disks) {
         (ended && (ended->source != expected->source || ended->done != expected->sectors))) {
         throw std::logic_error("the chip has made another copy than its reading says");
     }
-    const disk_contents before = contents_of(disks);
-    for (std::size_t port = 0; port < disks.size(); ++port) {
-        if (disks[port]) {
-            take_up(*disks[port], *disks_[port], before);
-        }
+    if (expected) {
+        const auto source = static_cast<std::size_t>(expected->source);
+        take_up(1 - source, disks[1 - source]->sectors, disks[source]->sectors);
     }
 }

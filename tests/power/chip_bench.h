@@ -32,8 +32,11 @@ public:
     void power_on(disk_pair& disks);
 
 private:
-    std::shared_ptr<enclosure::disk> lay_down(std::size_t port, const memory_disk& content);
+    // Brings the image to this content, and the other way round.
+    void lay_down(std::size_t port, const disk_content& wanted);
+    void take_up(std::size_t port, disk_content& to, const disk_content& from_source);
 
     temporary_folder folder_;
     std::array<std::shared_ptr<enclosure::disk>, 2> disks_;
+    disk_contents laid_; // what is in the images
 };

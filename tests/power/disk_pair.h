@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <optional>
 
 #include "tests/support/memory_enclosure.h"
@@ -27,7 +28,8 @@ sector_bytes record_of(const disk_pair& disks, std::size_t port); // of a disk t
 // Sectors that are zero count as never written.
 void drop_empty_sectors(disk_pair& disks);
 
-using disk_contents = std::array<std::map<std::uint64_t, sector_bytes>, 2>;
+using disk_content = std::map<std::uint64_t, sector_bytes>; // sectors that are not zero
+using disk_contents = std::array<disk_content, 2>;
 disk_contents contents_of(disk_pair disks);
 // The same without the times in the records. Two records of one time stay two of one time.
 disk_contents timeless_contents_of(disk_pair disks);

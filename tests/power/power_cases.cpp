@@ -77,8 +77,9 @@ void add_deletions(std::vector<power_case>& cases) {
 void add_wipes(std::vector<power_case>& cases) {
     for (const bool port : {false, true}) {
         const std::size_t index = port ? 1 : 0;
-        for (const disk_start& start : {degraded_start(index), diverged_start(0), diverged_start(1),
-                                        half_start(1, index), half_start(4, index)}) {
+        for (const disk_start& start :
+             {degraded_start(index), mixed_start(index), diverged_start(0), diverged_start(1),
+              half_start(1, index), half_start(4, index)}) {
             power_case one = case_of("Wipe " + on_disk(port), start);
             one.act = [port](krchip& chip) { chip.clear_disk(port); };
             one.offered = [index](const view_state& view) {
@@ -92,8 +93,8 @@ void add_wipes(std::vector<power_case>& cases) {
 void add_rebuilds(std::vector<power_case>& cases) {
     for (const bool from_second : {false, true}) {
         const std::size_t source = from_second ? 1 : 0;
-        for (const disk_start& start :
-             {degraded_start(source), diverged_start(0), diverged_start(1), foreign_start()}) {
+        for (const disk_start& start : {degraded_start(source), mixed_start(source),
+                                        diverged_start(0), diverged_start(1), foreign_start()}) {
             power_case one = case_of("Rebuild from " + on_disk(from_second), start);
             one.act = [from_second](krchip& chip) { chip.rebuild(from_second); };
             one.offered = [source](const view_state& view) {

@@ -104,6 +104,13 @@ disk_start degraded_start(std::size_t port) {
     return {"a lone half on " + number_of_disk(port), disks};
 }
 
+disk_start mixed_start(std::size_t port) {
+    disk_start start = half_start(1, 1 - port);
+    put(start.disks, port, lone_record(port, late));
+    start.name = "a lone half on " + number_of_disk(port) + " beside half a stripe";
+    return start;
+}
+
 disk_start deserted_start(std::size_t port) {
     disk_pair disks = plain_disks();
     put(disks, port, record_for(2, port, early));

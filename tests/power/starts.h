@@ -23,9 +23,11 @@ disk_start smaller_start(int mode);
 disk_start half_start(int mode, std::size_t port);
 // The half of a mirror that runs alone beside a plain disk.
 disk_start degraded_start(std::size_t port);
-// The same when the program has not yet seen that the partner is gone.
+// The same beside half a stripe.
+disk_start mixed_start(std::size_t port);
+// A lone half when the program has not yet seen that the partner is gone.
 disk_start deserted_start(std::size_t port);
-// The same beside an empty bay.
+// Likewise beside an empty bay.
 disk_start alone_start(std::size_t port);
 // The half on `later` has run alone.
 disk_start diverged_start(std::size_t later);
