@@ -12,6 +12,7 @@ constexpr std::size_t capacity_offset = 8;
 constexpr std::size_t partner_offset = 16;
 constexpr std::size_t partner_size = 60;
 constexpr std::size_t time_offset = 480;
+constexpr std::size_t time_size = 16;
 constexpr unsigned char mirror = 2;
 
 bool same_bytes(const sector_bytes& a, const sector_bytes& b, std::size_t offset,
@@ -85,7 +86,7 @@ void add_mixtures(finding& made, const disk_pair& left) {
     const sector_bytes record0 = record_of(left, 0);
     const sector_bytes record1 = record_of(left, 1);
     const bool is_mirror = record0[mode_offset] == mirror;
-    const bool same_time = same_bytes(record0, record1, time_offset, 16);
+    const bool same_time = same_bytes(record0, record1, time_offset, time_size);
     const bool both_name = names_partner(left, 0) && names_partner(left, 1);
     if (record0[mode_offset] != record1[mode_offset]) {
         made.fault = "in order, of two kinds";
@@ -110,16 +111,16 @@ void add_mixtures(finding& made, const disk_pair& left) {
 
 void check_copy(finding& made, const power_case& one, const disk_pair& left,
                 const program_reading& program, const chip_reading& chip) {
-    if (chip.copy && one.copy_source != chip.copy->source) {
+    if (!chip.copy) {
+        return;
+    }
+    if (one.copy_source != chip.copy->source) {
         made.fault = "a copy that nobody asked for";
-    }
-    const bool same_time =
-        !chip.copy || same_bytes(record_of(left, 0), record_of(left, 1), time_offset, 16);
-    if (!same_time) {
-        made.remarks.insert(remark::copy_of_two_times);
-    }
-    if (chip.copy && program.view.rebuild_source != chip.copy->source) {
+    } else if (program.view.rebuild_source != chip.copy->source) {
         made.fault = "a copy in another direction than is shown";
+    }
+    if (!same_bytes(record_of(left, 0), record_of(left, 1), time_offset, time_size)) {
+        made.remarks.insert(remark::copy_of_two_times);
     }
 }
 
