@@ -3,6 +3,7 @@
 #include "enclosure/mode_pages.h"
 #include "enclosure/numbers.h"
 #include "enclosure/opcodes.h"
+#include "enclosure/record_marks.h"
 
 #include <algorithm>
 
@@ -123,11 +124,22 @@ void chip::look_at_disks() {
     for (int port = 0; port < ports; ++port) {
         views_[static_cast<std::size_t>(port)] = look_at(port);
     }
+    answer_old_mark();
     volume_ = decide_volume(views_);
     if (left_with_unfinished_target()) {
         volume_.sectors = 0; // behind what was copied it has the rest of its old content
     }
     volume_io_.present(views_, volume_);
+}
+
+// A host takes a single mark for a copy that is to run, so the half that was written alone since
+// that copy gets one as well. Should it fail, the volume is decided alike.
+void chip::answer_old_mark() {
+    if (const std::optional<int> target = target_written_alone(views_)) {
+        port_view& view = views_[static_cast<std::size_t>(*target)];
+        view.record->copy_source =
+            set_source_mark(path_, *target, record_address(view.sectors).value_or(0));
+    }
 }
 
 bool chip::left_with_unfinished_target() const {

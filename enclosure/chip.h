@@ -86,6 +86,8 @@ private:
     scsi_reply vendor(byte_view cdb, byte_view data_out);
     scsi_reply read_sector(const vendor_command& command);
     scsi_reply write_sector(const vendor_command& command, byte_view data_out);
+    bool is_mirror_record(int port, std::uint64_t lba, const sector_data& data) const;
+    bool write_mirror_record(int port, std::uint64_t lba, sector_data& data);
     scsi_reply identify(const vendor_command& command);
     scsi_reply read_register(const vendor_command& command);
     scsi_reply rebuild_status(const vendor_command& command) const;
@@ -97,6 +99,7 @@ private:
     bool answers(int port) const;
     port_view look_at(int port);
     void look_at_disks();
+    void answer_old_mark();
     bool left_with_unfinished_target() const;
     bool goes_on(const kept_copy& before, const std::optional<copy_order>& order) const;
 

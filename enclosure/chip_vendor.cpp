@@ -59,9 +59,29 @@ scsi_reply chip::write_sector(const vendor_command& command, byte_view data_out)
     if (data_out.size() != sector_size) {
         return refused(sense::invalid_field);
     }
-    std::vector<std::uint8_t> data(data_out.begin(), data_out.end());
-    const bool done = path_.perform({io_kind::write, command.port, command.address, 1, data});
+    sector_data data{};
+    std::copy(data_out.begin(), data_out.end(), data.begin());
+    const bool done = is_mirror_record(command.port, command.address, data)
+                          ? write_mirror_record(command.port, command.address, data)
+                          : path_.perform({io_kind::write, command.port, command.address, 1, data});
     return done ? answered() : refused(sense::write_failed);
+}
+
+bool chip::is_mirror_record(int port, std::uint64_t lba, const sector_data& data) const {
+    const std::optional<array_record> record = read_record(data);
+    return record && record->kind == array_kind::mirror &&
+           record_address(views_[static_cast<std::size_t>(port)].sectors) == lba;
+}
+
+// A host that has read the record before its member was written alone must not take the mark away.
+bool chip::write_mirror_record(int port, std::uint64_t lba, sector_data& data) {
+    sector_data former{};
+    if (path_.perform({io_kind::read, port, lba, 1, former}) &&
+        is_mirror_record(port, lba, former)) {
+        keep_alone_mark(data, former);
+    }
+    volume_io_.record_written(port);
+    return path_.perform({io_kind::write, port, lba, 1, data});
 }
 
 scsi_reply chip::identify(const vendor_command& command) {

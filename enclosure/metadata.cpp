@@ -18,7 +18,9 @@ constexpr std::size_t at_flags = 4;
 constexpr std::size_t at_sectors = 8;
 constexpr std::size_t at_partner_serial = 16;
 constexpr std::size_t at_partner_model = 36;
+constexpr std::size_t at_partner_end = 76;
 constexpr std::size_t at_stamp = 480;
+constexpr std::size_t at_alone = at_stamp + 15;
 constexpr std::size_t at_large = 496;
 constexpr std::size_t at_tag = 504;
 
@@ -96,8 +98,24 @@ sector_data write_record(const array_record& record) {
 }
 
 void mark_alone(sector_data& sector) {
-    constexpr std::size_t last_of_stamp = at_stamp + 15;
-    sector[last_of_stamp] = sector[at_member] == 0 ? 1 : 2;
+    sector[at_alone] = sector[at_member] == 0 ? 1 : 2;
+}
+
+bool written_alone(const array_record& record) {
+    return record.stamp.back() != 0;
+}
+
+void mark_source(sector_data& sector) {
+    sector[at_flags] |= source_flag;
+}
+
+void keep_alone_mark(sector_data& written, const sector_data& former) {
+    const bool same_time = std::equal(&written[at_stamp], &written[at_alone], &former[at_stamp]);
+    const bool names_partner = std::any_of(&written[at_partner_serial], &written[at_partner_end],
+                                           [](std::uint8_t byte) { return byte != 0; });
+    if (former[at_alone] != 0 && (same_time || !names_partner)) {
+        mark_alone(written);
+    }
 }
 
 std::array<std::uint8_t, 16> stamp_of(std::string_view digits) {

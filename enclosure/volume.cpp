@@ -24,9 +24,25 @@ std::uint64_t mirror_on(const port_view& member) {
     return std::min(member.record->sectors, member.data_area());
 }
 
-volume mirror_of_both(const port_view& a, const port_view& b) {
+// The only marked member of two in a mirror.
+std::optional<std::size_t> marked_member(const port_views& views) {
+    if (!views[0].is(array_kind::mirror) || !views[1].is(array_kind::mirror) ||
+        views[0].record->copy_source == views[1].record->copy_source) {
+        return std::nullopt;
+    }
+    return views[0].record->copy_source ? 0 : 1;
+}
+
+// What is older never replaces what was written alone, so its mark counts no more.
+std::optional<std::size_t> source_of_copy(const port_views& views) {
+    const std::optional<std::size_t> marked = marked_member(views);
+    return marked && !written_alone(*views[1 - *marked].record) ? marked : std::nullopt;
+}
+
+volume mirror_of_both(const port_views& views) {
+    const auto& [a, b] = views;
     volume made{array_kind::mirror, volume_state::in_order, std::min(mirror_on(a), mirror_on(b))};
-    if (a.record->copy_source != b.record->copy_source) {
+    if (source_of_copy(views)) {
         made.state = volume_state::copying;
     } else if (a.record->stamp != b.record->stamp) {
         made.state = volume_state::diverged;
@@ -44,13 +60,14 @@ std::uint64_t joined_sectors(const port_view& a, const port_view& b) {
     return std::min(wanted / 2, smaller_area(a, b)) * 2;
 }
 
-volume of_two_members(const port_view& a, const port_view& b) {
+volume of_two_members(const port_views& views) {
+    const auto& [a, b] = views;
     const array_kind kind = a.record->kind;
     if (kind != b.record->kind) {
         return {array_kind::none, volume_state::broken, 0};
     }
     if (kind == array_kind::mirror) {
-        return mirror_of_both(a, b);
+        return mirror_of_both(views);
     }
     if (!names(a, b) || !names(b, a)) {
         return {kind, volume_state::broken, 0};
@@ -87,8 +104,7 @@ volume decide_volume(const port_views& views) {
     if (!first && !second) {
         return of_plain_disks(views);
     }
-    volume made =
-        first && second ? of_two_members(views[0], views[1]) : of_one_member(views[first ? 0 : 1]);
+    volume made = first && second ? of_two_members(views) : of_one_member(views[first ? 0 : 1]);
     if (made.sectors == 0) {
         made.state = volume_state::broken;
     }
@@ -96,17 +112,24 @@ volume decide_volume(const port_views& views) {
 }
 
 std::optional<copy_order> decide_copy(const port_views& views) {
-    if (!views[0].is(array_kind::mirror) || !views[1].is(array_kind::mirror) ||
-        views[0].record->copy_source == views[1].record->copy_source) {
+    const std::optional<std::size_t> source = source_of_copy(views);
+    if (!source) {
         return std::nullopt;
     }
-    const std::size_t source = views[0].record->copy_source ? 0 : 1;
     const std::uint64_t area =
-        std::min(views[source].record->sectors, smaller_area(views[0], views[1]));
+        std::min(views[*source].record->sectors, smaller_area(views[0], views[1]));
     if (area == 0) {
         return std::nullopt;
     }
-    return copy_order{static_cast<int>(source), area};
+    return copy_order{static_cast<int>(*source), area};
+}
+
+std::optional<int> target_written_alone(const port_views& views) {
+    const std::optional<std::size_t> marked = marked_member(views);
+    if (!marked || source_of_copy(views)) {
+        return std::nullopt;
+    }
+    return static_cast<int>(1 - *marked);
 }
 
 copy_pair pair_of(const port_views& views) {

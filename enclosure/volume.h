@@ -56,6 +56,10 @@ struct copy_order {
 // Nothing when no copy is asked for or there is nothing to copy.
 std::optional<copy_order> decide_copy(const port_views& views);
 
+// The target of a copy that the records still ask for although it was written alone since: with
+// that, the order has lost its meaning. Nothing when there is none.
+std::optional<int> target_written_alone(const port_views& views);
+
 // Which two disks a copy is between, and when their records were written: another pair, or the
 // same one with new records, has another copy. All zero for a port without a disk in an array.
 struct copy_pair {

@@ -1,5 +1,7 @@
 #include "enclosure/volume_io.h"
 
+#include "enclosure/record_marks.h"
+
 namespace enclosure {
 
 namespace {
@@ -17,7 +19,13 @@ void volume_io::present(const port_views& views, const volume& shown) {
     for (std::size_t port = 0; port < views.size(); ++port) {
         records_[port] = record_address(views[port].sectors);
     }
-    marked_ = false;
+    marked_ = shown.state == volume_state::diverged;
+}
+
+void volume_io::record_written(int port) {
+    if (port == layout_.first) {
+        marked_ = false;
+    }
 }
 
 bool volume_io::read(std::uint64_t lba, std::uint64_t count, byte_room data) {
@@ -56,7 +64,7 @@ written volume_io::write(std::uint64_t lba, byte_room data) {
     if (state_ == volume_state::copying || state_ == volume_state::in_order) {
         return write_both(lba, data);
     }
-    if (state_ == volume_state::degraded && !marked_) {
+    if (!marked_) {
         marked_ = mark_alone(layout_.first);
         if (!marked_) {
             return written::failed;
@@ -109,17 +117,7 @@ bool volume_io::write_member(int port, std::uint64_t lba, byte_room data) {
 // start on.
 bool volume_io::mark_alone(int port) {
     const std::optional<std::uint64_t>& address = records_[static_cast<std::size_t>(port)];
-    sector_data sector{};
-    if (!address || !path_.perform({io_kind::read, port, *address, 1, sector})) {
-        return false;
-    }
-    const std::optional<array_record> record = read_record(sector);
-    if (!record || record->kind != array_kind::mirror) {
-        return false;
-    }
-    enclosure::mark_alone(sector);
-    return path_.perform({io_kind::write, port, *address, 1, sector}) &&
-           path_.perform({io_kind::flush, port, 0, 0, {}});
+    return address && set_alone_mark(path_, port, *address);
 }
 
 } // namespace enclosure

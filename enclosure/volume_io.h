@@ -31,8 +31,13 @@ public:
     bool read(std::uint64_t lba, std::uint64_t count, byte_room data);
 
     // As many sectors as there are in `data`, all within the volume. A mirror is written on both
-    // members, wherever a copy stands; a degraded one is first marked in its member's record.
+    // members, wherever a copy stands; one that has a single member to write to is first marked in
+    // that member's record.
     written write(std::uint64_t lba, byte_room data);
+
+    // The host has written another mirror record to the disk on the port, 0 or 1: a mark may have
+    // gone with the former one.
+    void record_written(int port);
 
 private:
     bool read_piece(const layout_piece& piece, byte_room data);
@@ -48,7 +53,7 @@ private:
     volume_layout layout_;
     volume_state state_ = volume_state::no_disk;
     std::array<std::optional<std::uint64_t>, ports> records_; // where they are
-    bool marked_ = false;                                     // the degraded mirror's member
+    bool marked_ = false; // the only member that is written: its record is later than the partner's
 };
 
 } // namespace enclosure
