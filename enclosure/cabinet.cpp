@@ -69,7 +69,6 @@ void cabinet::begin_export(std::uint32_t number, std::uint32_t handle, moment no
 
 void cabinet::begin_restart(moment now) {
     chip_.power_off();
-    chip_.copy().forget();
     handle_.reset();
     returns_at_ = now + settings_.restart_delay;
 }

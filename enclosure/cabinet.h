@@ -66,8 +66,8 @@ public:
     // Its number among the exported ones; nothing while it is not exported.
     const std::optional<std::uint32_t>& export_number() const { return export_number_; }
 
-    // Leaves the bus; returns_at() is when it wants to be plugged in again. The chip knows nothing
-    // of what it did before.
+    // Leaves the bus; returns_at() is when it wants to be plugged in again. The chip begins a copy
+    // anew then.
     void begin_restart(moment now);
 
     // The same by a power cut. False: what was not flushed could not be taken back.

@@ -58,6 +58,7 @@ chip::chip(bays& disks, fault_stack& path, std::string product)
 void chip::power_on(moment now, const std::optional<kept_copy>& before) {
     restart_ = false;
     last_sense_ = sense::none;
+    unfilled_ = unfilled();
     copy_.forget();
     look_at_disks();
     copied_pair_ = pair_of(views_);
@@ -98,6 +99,20 @@ std::optional<kept_copy> chip::lasting_copy() const {
     return kept_copy{*copy_.progress(), copied_pair_};
 }
 
+std::optional<raw_identity> chip::unfilled() const {
+    const auto& progress = copy_.progress();
+    if (!progress) {
+        return unfilled_;
+    }
+    const auto target = static_cast<std::size_t>(1 - progress->source);
+    return copy_.unfinished() ? std::optional(copied_pair_.members[target].disk) : std::nullopt;
+}
+
+void chip::forget_copy() {
+    copy_.forget();
+    unfilled_.reset();
+}
+
 volume chip::presented() const {
     volume seen = volume_;
     const auto& progress = copy_.progress();
@@ -126,7 +141,8 @@ void chip::look_at_disks() {
     }
     answer_old_mark();
     volume_ = decide_volume(views_);
-    if (left_with_unfinished_target()) {
+    settle_unfilled();
+    if (serves_unfilled()) {
         volume_.sectors = 0; // behind what was copied it has the rest of its old content
     }
     volume_io_.present(views_, volume_);
@@ -142,13 +158,24 @@ void chip::answer_old_mark() {
     }
 }
 
-bool chip::left_with_unfinished_target() const {
-    if (volume_.state != volume_state::degraded || !copy_.unfinished()) {
+// A host that makes a new mirror of the disk takes its content as it is.
+void chip::settle_unfilled() {
+    const bool member = std::any_of(views_.begin(), views_.end(), [&](const port_view& view) {
+        return view.identity == unfilled_;
+    });
+    if (member && volume_.state == volume_state::in_order && volume_.kind == array_kind::mirror) {
+        unfilled_.reset();
+    }
+}
+
+// The disk is known by its identity alone: a host writes the record of a single member anew.
+bool chip::serves_unfilled() const {
+    if (volume_.state != volume_state::degraded && volume_.state != volume_state::diverged) {
         return false;
     }
-    const auto target = static_cast<std::size_t>(1 - copy_.progress()->source);
-    const copy_pair there = pair_of(views_);
-    return views_[target].present && there.members[target] == copied_pair_.members[target];
+    const volume_layout layout = layout_of(views_, volume_);
+    const port_view& served = views_[static_cast<std::size_t>(layout.first)];
+    return served.identity == unfilled();
 }
 
 port_view chip::look_at(int port) {

@@ -62,6 +62,14 @@ public:
     // is none or its target cannot be flushed.
     std::optional<kept_copy> lasting_copy() const;
 
+    // The disk that the latest copy has not filled: without its source it is no volume. Kept
+    // while the power is off, and to be kept while the desk is away.
+    std::optional<raw_identity> unfilled() const;
+    void restore_unfilled(const std::optional<raw_identity>& disk) { unfilled_ = disk; }
+
+    // The disks have been given other contents while the power was off.
+    void forget_copy();
+
     mirror_copy& copy() { return copy_; }
     const mirror_copy& copy() const { return copy_; }
 
@@ -100,14 +108,16 @@ private:
     port_view look_at(int port);
     void look_at_disks();
     void answer_old_mark();
-    bool left_with_unfinished_target() const;
+    void settle_unfilled();
+    bool serves_unfilled() const;
     bool goes_on(const kept_copy& before, const std::optional<copy_order>& order) const;
 
     bays& disks_;
     fault_stack& path_;
     std::string product_;
     mirror_copy copy_;
-    copy_pair copied_pair_; // of copy_
+    copy_pair copied_pair_;                // of copy_
+    std::optional<raw_identity> unfilled_; // as it was when copy_ was forgotten
     port_views views_;
     volume volume_;
     volume_io volume_io_;

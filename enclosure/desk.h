@@ -102,6 +102,7 @@ public:
         bool plugged = false;
         std::uint64_t rate = mirror_copy::usual_rate;
         std::optional<kept_copy> copy;
+        std::optional<raw_identity> unfilled; // as chip::unfilled()
         std::uint32_t last_handle = 0;
     };
     void restore_disk(const std::string& name, const identify_block& identity);

@@ -52,6 +52,7 @@ void desk::restore_enclosure(const former_cabinet& former, moment now) {
         }
     }
     made->bridge_chip().copy().set_rate(former.rate, now);
+    made->bridge_chip().restore_unfilled(former.unfilled);
     made->restore_last_handle(former.last_handle);
     cabinet& what = *cabinets_.emplace(name, std::move(made)).first->second;
     watcher_.enclosure_added(name);
@@ -103,6 +104,8 @@ void desk::arrange(const std::string& enclosure, scenario state) {
         }
     }
     write_records(state, *what.disks().at(0), *what.disks().at(1));
+    what.bridge_chip().forget_copy();
+    watcher_.enclosure_changed(enclosure);
     if (state == scenario::degraded || state == scenario::broken) {
         pull(enclosure, second_bay);
     }

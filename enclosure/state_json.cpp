@@ -92,12 +92,16 @@ std::array<std::string, ports> bays_from(const json& from) {
     return names;
 }
 
+json identity_json(const raw_identity& disk) {
+    return {{"serial", to_hex(disk.serial)}, {"model", to_hex(disk.model)}};
+}
+
 json copy_json(const kept_copy& copy) {
     json members = json::array();
     for (const copy_pair::member& one : copy.between.members) {
-        members.push_back({{"serial", to_hex(one.disk.serial)},
-                           {"model", to_hex(one.disk.model)},
-                           {"stamp", to_hex(one.stamp)}});
+        json member = identity_json(one.disk);
+        member["stamp"] = to_hex(one.stamp);
+        members.push_back(std::move(member));
     }
     return {{"source", copy.progress.source},
             {"sectors", copy.progress.sectors},
@@ -111,6 +115,13 @@ void bytes_from(const json& from, const char* name, byte_room bytes) {
     }
 }
 
+raw_identity identity_from(const json& from) {
+    raw_identity disk;
+    bytes_from(from, "serial", disk.serial);
+    bytes_from(from, "model", disk.model);
+    return disk;
+}
+
 copy_pair pair_from(const json& from) {
     const json& members = field(from, "between");
     copy_pair pair;
@@ -118,8 +129,7 @@ copy_pair pair_from(const json& from) {
         throw problem("'between' does not describe two disks");
     }
     for (std::size_t port = 0; port < pair.members.size(); ++port) {
-        bytes_from(members[port], "serial", pair.members[port].disk.serial);
-        bytes_from(members[port], "model", pair.members[port].disk.model);
+        pair.members[port].disk = identity_from(members[port]);
         bytes_from(members[port], "stamp", pair.members[port].stamp);
     }
     return pair;
@@ -136,6 +146,13 @@ std::optional<kept_copy> copy_from(const json& from) {
     progress.done = number(copy, "done", progress.sectors);
     check_disk_size(progress.sectors);
     return kept_copy{progress, pair_from(copy)};
+}
+
+// Files of earlier versions do not have it.
+std::optional<raw_identity> unfilled_from(const json& from) {
+    const auto found = from.find("unfilled");
+    return found == from.end() || found->is_null() ? std::nullopt
+                                                   : std::optional(identity_from(*found));
 }
 
 bus_kind bus_from(const json& from) {
@@ -165,6 +182,7 @@ void settings_from(const json& from, cabinet_settings& settings) {
 
 std::string enclosure_to_json(const cabinet& what, const std::optional<kept_copy>& copy) {
     const cabinet_settings& settings = what.settings();
+    const std::optional<raw_identity> unfilled = what.bridge_chip().unfilled();
     const json state = {{"format", format},
                         {"bus", settings.bus == bus_kind::usb ? "USB" : "FireWire"},
                         {"vendor_id", settings.vendor_id},
@@ -178,7 +196,8 @@ std::string enclosure_to_json(const cabinet& what, const std::optional<kept_copy
                         {"plugged", what.plugged() && !what.export_number()},
                         {"rate", what.bridge_chip().copy().rate()},
                         {"last_handle", what.last_handle()},
-                        {"copy", copy ? copy_json(*copy) : json()}};
+                        {"copy", copy ? copy_json(*copy) : json()},
+                        {"unfilled", unfilled ? identity_json(*unfilled) : json()}};
     return state.dump(2) + "\n";
 }
 
@@ -200,6 +219,7 @@ desk::former_cabinet enclosure_from_json(const std::string& content, const std::
     former.rate = number(from, "rate", mirror_copy::highest_rate);
     former.last_handle = static_cast<std::uint32_t>(number(from, "last_handle", last_handle));
     former.copy = copy_from(from);
+    former.unfilled = unfilled_from(from);
     return former;
 }
 
