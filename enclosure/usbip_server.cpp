@@ -8,6 +8,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <utility>
 
 namespace enclosure {
@@ -16,6 +17,7 @@ namespace {
 
 constexpr std::size_t most_clients = 72; // as many as enclosures, and some that only ask
 constexpr int most_waiting_clients = 16;
+constexpr moment time_to_recover = std::chrono::seconds(1);
 constexpr std::size_t read_at_once = 256U << 10; // bytes
 
 sockaddr_in loopback(std::uint16_t port) {
@@ -78,10 +80,13 @@ std::uint16_t usbip_server::port() const {
     return ntohs(own_address(listener_).sin_port);
 }
 
-// Who comes while all places are taken waits in the kernel's queue.
+// Who comes meanwhile waits in the kernel's queue.
+bool usbip_server::may_listen() const {
+    return clients_.size() < most_clients && !listens_again_;
+}
+
 void usbip_server::watch(std::vector<pollfd>& watched) const {
-    const bool room = clients_.size() < most_clients;
-    watched.push_back({room ? listener_.get() : -1, POLLIN, 0});
+    watched.push_back({may_listen() ? listener_.get() : -1, POLLIN, 0});
     for (const client& one : clients_) {
         int events = one.session.wants_input() ? POLLIN : 0;
         events |= one.session.output().empty() ? 0 : POLLOUT;
@@ -90,7 +95,7 @@ void usbip_server::watch(std::vector<pollfd>& watched) const {
 }
 
 std::optional<moment> usbip_server::next_event() const {
-    std::optional<moment> next;
+    std::optional<moment> next = listens_again_;
     for (const client& one : clients_) {
         const std::optional<moment> mine = one.session.next_event();
         if (mine && (!next || *mine < *next)) {
@@ -101,6 +106,9 @@ std::optional<moment> usbip_server::next_event() const {
 }
 
 void usbip_server::serve(moment now) {
+    if (listens_again_ && *listens_again_ <= now) {
+        listens_again_.reset();
+    }
     std::vector<pollfd> ready;
     watch(ready);
     if (::poll(ready.data(), ready.size(), 0) < 0) {
@@ -111,7 +119,9 @@ void usbip_server::serve(moment now) {
     for (client& one : clients_) {
         go_on(one, (events++)->revents, now);
     }
-    clients_.remove_if([](const client& one) { return one.lost || one.session.over(); });
+    if (clients_.remove_if([](const client& one) { return one.lost || one.session.over(); }) > 0) {
+        listens_again_.reset();
+    }
     if (somebody_came) {
         admit(now);
     }
@@ -145,10 +155,27 @@ void usbip_server::admit(moment now) {
     socklen_t size = sizeof peer;
     file_handle connection(::accept4(listener_.get(), reinterpret_cast<sockaddr*>(&peer), &size,
                                      SOCK_NONBLOCK | SOCK_CLOEXEC));
-    if (connection && is_welcome(connection, peer)) {
+    if (!connection) {
+        pause(now);
+        return;
+    }
+    complained_ = false;
+    if (is_welcome(connection, peer)) {
         set_option(connection, IPPROTO_TCP, TCP_NODELAY);
         clients_.emplace_back(std::move(connection), exports_, now);
     }
+}
+
+// Who could not be taken is still waiting: to be told of it again at once would be a busy loop.
+void usbip_server::pause(moment now) {
+    if (errno == EAGAIN || errno == EINTR || errno == ECONNABORTED) {
+        return;
+    }
+    if (!complained_) {
+        complain_("cannot take a USB/IP connection: " + reason() + "; trying again every second");
+    }
+    complained_ = true;
+    listens_again_ = now + time_to_recover;
 }
 
 // USB/IP itself asks nobody who they are.

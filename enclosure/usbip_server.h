@@ -29,7 +29,8 @@ public:
 
     std::uint16_t port() const;
 
-    // Adds what to wait for.
+    // Adds what to wait for. While nobody can be taken for want of files or memory, that is not
+    // who comes: it is tried again when a client has gone, and every second.
     void watch(std::vector<pollfd>& watched) const;
 
     // When serve() is next needed though nothing came; nothing while no time is awaited.
@@ -50,7 +51,9 @@ private:
         bool lost = false; // nobody is at the other end any more
     };
 
+    bool may_listen() const;
     void admit(moment now);
+    void pause(moment now);
     bool is_welcome(const file_handle& connection, const sockaddr_in& peer);
     void go_on(client& with, short events, moment now);
     bool receive(client& from, moment now);
@@ -60,7 +63,9 @@ private:
     line_sink complain_;
     std::vector<std::uint8_t> buffer_; // for what is being read
     std::list<client> clients_;
-    file_handle listener_; // the first to go
+    std::optional<moment> listens_again_; // after somebody could not be taken
+    bool complained_ = false;             // of that
+    file_handle listener_;                // the first to go
 };
 
 } // namespace enclosure

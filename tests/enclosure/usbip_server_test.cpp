@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace enclosure {
@@ -114,6 +115,55 @@ TEST_F(UsbipServer, AFullHouseLetsTheNextOneWait) {
     server_.watch(watched);
     EXPECT_EQ(::poll(watched.data(), watched.size(), 0), 0) << "nobody is waited for";
     guests.clear();
+    EXPECT_EQ(late->hear(328).size(), 328U);
+}
+
+// Opens no further file.
+class no_more_files {
+public:
+    no_more_files() {
+        ::getrlimit(RLIMIT_NOFILE, &former_);
+        const file_handle next(::dup(STDERR_FILENO));
+        const rlimit none{static_cast<rlim_t>(next.get()), former_.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~no_more_files() { ::setrlimit(RLIMIT_NOFILE, &former_); }
+    no_more_files(const no_more_files&) = delete;
+    no_more_files& operator=(const no_more_files&) = delete;
+
+private:
+    rlimit former_{};
+};
+
+TEST_F(UsbipServer, WhoCannotBeTakenKeepsNobodyBusyAndIsTakenLater) {
+    const auto late = client();
+    late->say(list_request());
+    {
+        const no_more_files now;
+        for (int i = 0; i < 3; ++i) {
+            serve();
+            std::vector<pollfd> watched;
+            server_.watch(watched);
+            EXPECT_EQ(::poll(watched.data(), watched.size(), 0), 0) << "nobody is waited for";
+            EXPECT_EQ(server_.next_event(), desk_.now + std::chrono::seconds(1));
+            desk_.now += std::chrono::seconds(1);
+        }
+    }
+    ASSERT_EQ(lines_.size(), 1U);
+    EXPECT_NE(lines_[0].find("Too many open files"), std::string::npos) << lines_[0];
+    EXPECT_EQ(late->hear(328).size(), 328U);
+    EXPECT_EQ(server_.next_event(), std::nullopt);
+}
+
+TEST_F(UsbipServer, WhoCannotBeTakenIsTakenWhenAnotherHasGone) {
+    auto first = client();
+    EXPECT_EQ(first->ask(import_request("1-1"), 320).size(), 320U);
+    const auto late = client();
+    late->say(list_request());
+    const no_more_files now;
+    serve();
+    EXPECT_EQ(lines_.size(), 1U);
+    first.reset();
     EXPECT_EQ(late->hear(328).size(), 328U);
 }
 
