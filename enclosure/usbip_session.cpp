@@ -116,6 +116,8 @@ void usbip_session::go_on(moment now) {
     while (has_room() && read_one(now)) {
         answer(now);
     }
+    drop_front(input_, read_); // once, as it moves all that is left
+    read_ = 0;
     look_after_device(now);
 }
 
@@ -128,20 +130,19 @@ bool usbip_session::read_one(moment now) {
 }
 
 bool usbip_session::read_request(moment now) {
-    if (input_.size() < usbip::request_size) {
+    if (unread().size() < usbip::request_size) {
         return false;
     }
-    const usbip::request asked = usbip::decode_request(input_);
+    const usbip::request asked = usbip::decode_request(unread());
     if (asked.version != usbip::protocol_version) {
         break_off("speaks another version of USB/IP");
     } else if (asked.code == usbip::list_request) {
         end_with(usbip::list_reply(exports_.devices()), now);
     } else if (asked.code != usbip::import_request) {
         break_off("asked for something unknown");
-    } else if (input_.size() >= usbip::request_size + usbip::busid_size) {
-        busid_ =
-            usbip::decode_busid(byte_view(input_).subspan(usbip::request_size, usbip::busid_size));
-        drop_front(input_, usbip::request_size + usbip::busid_size);
+    } else if (unread().size() >= usbip::request_size + usbip::busid_size) {
+        busid_ = usbip::decode_busid(unread().subspan(usbip::request_size, usbip::busid_size));
+        read_ += usbip::request_size + usbip::busid_size;
         limit_ = now + longest_wait;
         import(now);
         return true;
@@ -171,24 +172,24 @@ void usbip_session::import(moment now) {
 }
 
 bool usbip_session::read_command() {
-    if (input_.size() < usbip::command_size) {
+    if (unread().size() < usbip::command_size) {
         return false;
     }
-    const command got = usbip::decode_command(input_);
+    const command got = usbip::decode_command(unread());
     if (const char* const trouble = trouble_in(got)) {
         break_off(trouble);
         return false;
     }
     const std::size_t size = usbip::command_size + (carries_data(got) ? got.length : 0);
-    if (input_.size() < size) {
+    if (unread().size() < size) {
         return false;
     }
     if (got.code == usbip::submit_command) {
-        submit(got, byte_view(input_).subspan(usbip::command_size, size - usbip::command_size));
+        submit(got, unread().subspan(usbip::command_size, size - usbip::command_size));
     } else {
         unlink(got);
     }
-    drop_front(input_, size);
+    read_ += size;
     return true;
 }
 

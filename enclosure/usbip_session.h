@@ -48,6 +48,7 @@ private:
     enum class stage { greeting, waiting, imported, leaving, ending };
     class device_link;
 
+    byte_view unread() const { return byte_view(input_).subspan(read_); }
     bool read_one(moment now);
     bool read_request(moment now);
     bool read_command();
@@ -67,6 +68,7 @@ private:
     usb_exports& exports_;
     stage stage_ = stage::greeting;
     usbip::bytes input_;
+    std::size_t read_ = 0; // bytes of input_, while going on
     usbip::bytes output_;
     std::string complaint_;
     std::string busid_; // asked for
