@@ -1,8 +1,9 @@
 #include "enclosure/bulk_only.h"
 
-#include "enclosure/numbers.h"
+#include "enclosure/opcodes.h"
 #include "enclosure/usb_descriptors.h"
 #include "enclosure/vendor_commands.h"
+#include "enclosure/volume_commands.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,15 +11,13 @@
 namespace enclosure::usb {
 
 std::uint64_t outgoing_bytes(byte_view cdb) {
-    constexpr std::uint8_t write_10 = 0x2A;
-    constexpr std::uint8_t write_16 = 0x8A;
-    if (cdb.size() >= 10 && cdb[0] == write_10) {
-        return get_be(&cdb[7], 2) * sector_size;
+    if (cdb.empty() || cdb.size() < cdb_length(cdb[0])) {
+        return 0;
     }
-    if (cdb.size() >= 16 && cdb[0] == write_16) {
-        return get_be(&cdb[10], 4) * sector_size;
+    if (cdb[0] == op_write_10 || cdb[0] == op_write_16) {
+        return range_in(cdb).count * sector_size;
     }
-    if (cdb.size() != longest_cdb || cdb[0] != vendor_opcode) {
+    if (cdb[0] != vendor_opcode) {
         return 0;
     }
     const std::optional<vendor_command> own = decode_vendor(cdb);
