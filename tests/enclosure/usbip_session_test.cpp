@@ -38,6 +38,19 @@ protected:
 
     void import() { ASSERT_EQ(say(import_request("1-1")).size(), import_reply_size); }
 
+    // Transfer 2 is answered with a sector 3 seconds later.
+    void begin_slow_read() {
+        import();
+        fault_rule slow;
+        slow.kind = fault_kind::delay;
+        slow.operation = io_kind::read;
+        slow.delay = std::chrono::seconds(3);
+        desk_.on.add_fault("box", slow);
+        const vendor_cdb read = encode({vendor_action::read_sector, 0, true, 0, 512});
+        say(joined(
+            {bulk_out(1, wrapped(9, 512, true, {read.begin(), read.end()})), bulk_in(2, 512)}));
+    }
+
     void pass(moment time) {
         desk_.now += time;
         desk_.on.advance(desk_.now);
@@ -154,14 +167,7 @@ TEST_F(UsbipSession, AnAnsweredTransferCannotBeTakenBack) {
 }
 
 TEST_F(UsbipSession, AnAnswerThatTakesTimeComesThen) {
-    import();
-    fault_rule slow;
-    slow.kind = fault_kind::delay;
-    slow.operation = io_kind::read;
-    slow.delay = std::chrono::seconds(3);
-    desk_.on.add_fault("box", slow);
-    const vendor_cdb read = encode({vendor_action::read_sector, 0, true, 0, 512});
-    say(joined({bulk_out(1, wrapped(9, 512, true, {read.begin(), read.end()})), bulk_in(2, 512)}));
+    begin_slow_read();
     EXPECT_EQ(session_.next_event(), std::chrono::seconds(3));
     pass(std::chrono::seconds(2));
     EXPECT_EQ(heard(session_), bytes());
@@ -171,14 +177,7 @@ TEST_F(UsbipSession, AnAnswerThatTakesTimeComesThen) {
 }
 
 TEST_F(UsbipSession, ASlowAnswerThatWasTakenBackIsNotSent) {
-    import();
-    fault_rule slow;
-    slow.kind = fault_kind::delay;
-    slow.operation = io_kind::read;
-    slow.delay = std::chrono::seconds(3);
-    desk_.on.add_fault("box", slow);
-    const vendor_cdb read = encode({vendor_action::read_sector, 0, true, 0, 512});
-    say(joined({bulk_out(1, wrapped(9, 512, true, {read.begin(), read.end()})), bulk_in(2, 512)}));
+    begin_slow_read();
     EXPECT_EQ(say(unlink(3, 2)), unlink_reply(3, -104));
     pass(std::chrono::seconds(3));
     EXPECT_EQ(heard(session_), bytes());

@@ -18,9 +18,9 @@ protected:
 TEST_F(VolumeCommands, ReadWhatWasWritten) {
     start(scenario::unconfigured);
     const bytes data = sectors_from(0, 5);
-    ASSERT_EQ(host_.send(cdb_10(op_write_10, 40, 5), data).status, scsi_status::good);
-    EXPECT_TRUE(host_.send(cdb_10(op_read_10, 40, 5)).data_in == data);
-    EXPECT_TRUE(host_.send(cdb_16(op_read_16, 40, 5)).data_in == data);
+    ASSERT_EQ(host_.send(block_cdb(op_write_10, 40, 5), data).status, scsi_status::good);
+    EXPECT_TRUE(host_.send(block_cdb(op_read_10, 40, 5)).data_in == data);
+    EXPECT_TRUE(host_.send(block_cdb(op_read_16, 40, 5)).data_in == data);
     EXPECT_EQ(host_.on_disk(0, 40, 5), data);
     EXPECT_EQ(host_.on_disk(1, 40, 5), zeros(5));
 }
@@ -30,15 +30,15 @@ TEST_F(VolumeCommands, ReachTheLastSectorAndNoFurther) {
     host_.expect_written(sectors - 1, sectors_from(0, 1));
     host_.expect_reads(sectors - 1, sectors_from(0, 1));
     for (const std::uint8_t code : {op_read_10, op_write_10, op_verify_10}) {
-        EXPECT_EQ(sense_of(host_.send(cdb_10(code, sectors - 1, 2), bytes(1024))),
+        EXPECT_EQ(sense_of(host_.send(block_cdb(code, sectors - 1, 2), bytes(1024))),
                   sense::lba_out_of_range);
-        EXPECT_EQ(sense_of(host_.send(cdb_10(code, 0xFFFFFFFF, 0xFFFF), bytes(1024))),
+        EXPECT_EQ(sense_of(host_.send(block_cdb(code, 0xFFFFFFFF, 0xFFFF), bytes(1024))),
                   sense::lba_out_of_range);
     }
     for (const std::uint8_t code : {op_read_16, op_write_16}) {
-        EXPECT_EQ(sense_of(host_.send(cdb_16(code, sectors, 1), bytes(512))),
+        EXPECT_EQ(sense_of(host_.send(block_cdb(code, sectors, 1), bytes(512))),
                   sense::lba_out_of_range);
-        EXPECT_EQ(sense_of(host_.send(cdb_16(code, ~0ULL, 2), bytes(1024))),
+        EXPECT_EQ(sense_of(host_.send(block_cdb(code, ~0ULL, 2), bytes(1024))),
                   sense::lba_out_of_range);
     }
     EXPECT_EQ(host_.on_disk(0, sectors - 1, 1), sectors_from(0, 1));
@@ -57,7 +57,7 @@ TEST_F(VolumeCommands, OfNoSectorsDoNothing) {
     start(scenario::raid1);
     const std::uint64_t end = host_.capacity();
     for (const std::uint8_t code : {op_read_10, op_write_10, op_verify_10}) {
-        const scsi_reply reply = host_.send(cdb_10(code, end, 0), bytes(512, 9));
+        const scsi_reply reply = host_.send(block_cdb(code, end, 0), bytes(512, 9));
         EXPECT_EQ(reply.status, scsi_status::good);
         EXPECT_TRUE(reply.data_in.empty());
     }
@@ -76,27 +76,28 @@ TEST_F(VolumeCommands, MoveAtMost4MiB) {
 
 TEST_F(VolumeCommands, WriteNothingWithoutAllOfTheirData) {
     start(scenario::unconfigured);
-    EXPECT_EQ(sense_of(host_.send(cdb_10(op_write_10, 0, 2), bytes(1023, 9))),
+    EXPECT_EQ(sense_of(host_.send(block_cdb(op_write_10, 0, 2), bytes(1023, 9))),
               sense::invalid_field);
     EXPECT_EQ(host_.on_disk(0, 0, 2), bytes(1024));
 }
 
 TEST_F(VolumeCommands, WriteNoMoreThanTheyNamed) {
     start(scenario::unconfigured);
-    ASSERT_EQ(host_.send(cdb_10(op_write_10, 0, 1), bytes(1024, 9)).status, scsi_status::good);
+    ASSERT_EQ(host_.send(block_cdb(op_write_10, 0, 1), bytes(1024, 9)).status, scsi_status::good);
     EXPECT_EQ(host_.on_disk(0, 0, 1), bytes(512, 9));
     EXPECT_EQ(host_.on_disk(0, 1, 1), bytes(512));
 }
 
 TEST_F(VolumeCommands, CutWhatIsReadToTheAllocation) {
     start(scenario::unconfigured);
-    EXPECT_EQ(host_.send(cdb_10(op_read_10, 0, 2), {}, 700).data_in.size(), 700U);
+    EXPECT_EQ(host_.send(block_cdb(op_read_10, 0, 2), {}, 700).data_in.size(), 700U);
 }
 
 TEST_F(VolumeCommands, AskingForProtectionInformationAreRefused) {
     start(scenario::unconfigured);
     for (const std::uint8_t code : {op_read_10, op_write_10, op_verify_10}) {
-        EXPECT_EQ(sense_of(host_.send(cdb_10(code, 0, 1, 0x20), bytes(512))), sense::invalid_field);
+        EXPECT_EQ(sense_of(host_.send(block_cdb(code, 0, 1, 0x20), bytes(512))),
+                  sense::invalid_field);
     }
 }
 
@@ -112,19 +113,19 @@ TEST_F(VolumeCommands, WrittenPastTheCacheAreLasting) {
 
 TEST_F(VolumeCommands, SynchronizeInBothLengths) {
     start(scenario::unconfigured);
-    EXPECT_EQ(host_.send(cdb_10(op_synchronize_cache_10, 0, 0)).status, scsi_status::good);
-    EXPECT_EQ(host_.send(cdb_16(op_synchronize_cache_16, 0, 0)).status, scsi_status::good);
+    EXPECT_EQ(host_.send(block_cdb(op_synchronize_cache_10, 0, 0)).status, scsi_status::good);
+    EXPECT_EQ(host_.send(block_cdb(op_synchronize_cache_16, 0, 0)).status, scsi_status::good);
     host_.add_fault(fault_kind::fail, io_kind::flush, 1, 0, 0);
-    EXPECT_EQ(sense_of(host_.send(cdb_16(op_synchronize_cache_16, 0, 0))), sense::write_failed);
+    EXPECT_EQ(sense_of(host_.send(block_cdb(op_synchronize_cache_16, 0, 0))), sense::write_failed);
 }
 
 TEST_F(VolumeCommands, VerifySeesWhatCannotBeRead) {
     start(scenario::unconfigured);
-    EXPECT_EQ(host_.send(cdb_10(op_verify_10, 0, sectors)).status, scsi_status::good);
+    EXPECT_EQ(host_.send(block_cdb(op_verify_10, 0, sectors)).status, scsi_status::good);
     host_.add_fault(fault_kind::fail, io_kind::read, 0, 77, 77);
-    EXPECT_EQ(host_.send(cdb_10(op_verify_10, 0, 77)).status, scsi_status::good);
-    EXPECT_EQ(sense_of(host_.send(cdb_10(op_verify_10, 77, 1))), sense::read_failed);
-    EXPECT_EQ(sense_of(host_.send(cdb_10(op_verify_10, 0, 1, 0x02), bytes(512))),
+    EXPECT_EQ(host_.send(block_cdb(op_verify_10, 0, 77)).status, scsi_status::good);
+    EXPECT_EQ(sense_of(host_.send(block_cdb(op_verify_10, 77, 1))), sense::read_failed);
+    EXPECT_EQ(sense_of(host_.send(block_cdb(op_verify_10, 0, 1, 0x02), bytes(512))),
               sense::invalid_field);
 }
 
@@ -149,12 +150,12 @@ TEST_F(VolumeCommands, AreNotAnsweredByADiskThatHangs) {
 
 TEST_F(VolumeCommands, AreRefusedWithoutAVolume) {
     for (const std::uint8_t code : {op_read_10, op_write_10, op_verify_10}) {
-        EXPECT_EQ(sense_of(host_.send(cdb_10(code, 0, 1), bytes(512))), sense::no_medium);
+        EXPECT_EQ(sense_of(host_.send(block_cdb(code, 0, 1), bytes(512))), sense::no_medium);
     }
     start(scenario::raid0);
     host_.pull(1);
     for (const std::uint8_t code : {op_read_10, op_write_10, op_verify_10}) {
-        EXPECT_EQ(sense_of(host_.send(cdb_10(code, 0, 0), bytes(512))), sense::not_ready);
+        EXPECT_EQ(sense_of(host_.send(block_cdb(code, 0, 0), bytes(512))), sense::not_ready);
     }
     EXPECT_EQ(host_.on_disk(0, 0, 1), bytes(512));
 }
@@ -229,14 +230,14 @@ TEST_F(VolumeCommands, AKernelThatLooksAtTheDiskGetsOn) {
     EXPECT_EQ(good({0x1A, 0, 0x3F, 0, 192, 0})[2] & 0x80, 0);
     EXPECT_EQ(good({0x1A, 0, 0x08, 0, 4, 0}).size(), 4U);
     EXPECT_EQ(good({0x1A, 0, 0x08, 0, 24, 0})[6] & 0x04, 0x04);
-    EXPECT_EQ(good(cdb_10(op_read_10, 0, 8)).size(), 4096U);
+    EXPECT_EQ(good(block_cdb(op_read_10, 0, 8)).size(), 4096U);
     EXPECT_EQ(sense_of(host_.send({0xA3, 0x0C, 1, 0x93, 0, 0, 0, 0, 2, 0, 0, 0})),
               sense::invalid_opcode);
     EXPECT_EQ(sense_of(host_.send({0x85, 8, 14, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0xEC, 0})),
               sense::invalid_opcode);
     EXPECT_EQ(sense_of(host_.send({0x42, 0, 0, 0, 0, 0, 0, 0, 24, 0})), sense::invalid_opcode);
     good({0x1E, 0, 0, 0, 1, 0});
-    good(cdb_10(op_synchronize_cache_10, 0, 0));
+    good(block_cdb(op_synchronize_cache_10, 0, 0));
 }
 
 } // namespace

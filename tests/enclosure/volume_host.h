@@ -42,24 +42,15 @@ inline enclosure::sense_code sense_of(const enclosure::scsi_reply& reply) {
     return {reply.sense[2], reply.sense[12], reply.sense[13]};
 }
 
-// The commands of 10 and 16 bytes that address sectors.
-inline bytes cdb_10(std::uint8_t code, std::uint64_t lba, std::uint64_t count,
-                    std::uint8_t flags = 0) {
-    bytes cdb(10);
+// A command that addresses sectors, in the length that its opcode has.
+inline bytes block_cdb(std::uint8_t code, std::uint64_t lba, std::uint64_t count,
+                       std::uint8_t flags = 0) {
+    bytes cdb(enclosure::cdb_length(code));
+    const bool wide = cdb.size() == 16;
     cdb[0] = code;
     cdb[1] = flags;
-    enclosure::put_be(&cdb[2], lba, 4);
-    enclosure::put_be(&cdb[7], count, 2);
-    return cdb;
-}
-
-inline bytes cdb_16(std::uint8_t code, std::uint64_t lba, std::uint64_t count,
-                    std::uint8_t flags = 0) {
-    bytes cdb(16);
-    cdb[0] = code;
-    cdb[1] = flags;
-    enclosure::put_be(&cdb[2], lba, 8);
-    enclosure::put_be(&cdb[10], count, 4);
+    enclosure::put_be(&cdb[2], lba, wide ? 8 : 4);
+    enclosure::put_be(&cdb[wide ? 10 : 7], count, wide ? 4 : 2);
     return cdb;
 }
 
@@ -107,11 +98,12 @@ public:
 
     enclosure::scsi_reply write(std::uint64_t lba, const bytes& data, std::uint8_t flags = 0) {
         return send(
-            cdb_16(enclosure::op_write_16, lba, data.size() / enclosure::sector_size, flags), data);
+            block_cdb(enclosure::op_write_16, lba, data.size() / enclosure::sector_size, flags),
+            data);
     }
 
     enclosure::scsi_reply read(std::uint64_t lba, std::uint64_t count) {
-        return send(cdb_16(enclosure::op_read_16, lba, count));
+        return send(block_cdb(enclosure::op_read_16, lba, count));
     }
 
     void expect_written(std::uint64_t lba, const bytes& data) {
