@@ -82,6 +82,30 @@ void chip::power_off() {
     copy_.stop();
 }
 
+bool chip::advance(moment now) {
+    const bool was_running = copy_.running();
+    const bool more = copy_.advance(now);
+    if (was_running && !copy_.running()) {
+        settle_source();
+    }
+    return more;
+}
+
+// What was written to the source alone is on its target as well now, and lasting before the records
+// say so.
+void chip::settle_source() {
+    const int source = copy_.progress()->source;
+    port_view& view = views_[static_cast<std::size_t>(source)];
+    if (!view.record || !written_alone(*view.record)) {
+        return;
+    }
+    if (path_.perform({io_kind::flush, 1 - source, 0, 0, {}}) &&
+        clear_alone_mark(path_, source, record_address(view.sectors).value_or(0))) {
+        view.record->stamp.back() = 0;
+        copied_pair_ = pair_of(views_);
+    }
+}
+
 void chip::disks_changed() {
     copy_.stop();
     look_at_disks();

@@ -56,7 +56,7 @@ public:
     bool take_restart_request() { return std::exchange(restart_, false); }
 
     // Goes on copying. True: more is due at `now`.
-    bool advance(moment now) { return copy_.advance(now); }
+    bool advance(moment now);
 
     // The copy for a later power_on, once what it says was copied is lasting; nothing when there
     // is none or its target cannot be flushed.
@@ -108,6 +108,7 @@ private:
     port_view look_at(int port);
     void look_at_disks();
     void answer_old_mark();
+    void settle_source();
     void settle_unfilled();
     bool serves_unfilled() const;
     bool goes_on(const kept_copy& before, const std::optional<copy_order>& order) const;

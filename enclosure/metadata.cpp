@@ -101,6 +101,10 @@ void mark_alone(sector_data& sector) {
     sector[at_alone] = sector[at_member] == 0 ? 1 : 2;
 }
 
+void unmark_alone(sector_data& sector) {
+    sector[at_alone] = 0;
+}
+
 bool written_alone(const array_record& record) {
     return record.stamp.back() != 0;
 }
@@ -115,6 +119,8 @@ void keep_alone_mark(sector_data& written, const sector_data& former) {
                                            [](std::uint8_t byte) { return byte != 0; });
     if (former[at_alone] != 0 && (same_time || !names_partner)) {
         mark_alone(written);
+    } else if (same_time) {
+        unmark_alone(written);
     }
 }
 

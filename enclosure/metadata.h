@@ -48,15 +48,17 @@ sector_data write_record(const array_record& record);
 // the partner's, and never the same as that of a partner marked likewise.
 void mark_alone(sector_data& sector);
 
+void unmark_alone(sector_data& sector);
+
 // Whether the member carries that mark.
 bool written_alone(const array_record& record);
 
 // Marks a member's sector as that of a copy's source.
 void mark_source(sector_data& sector);
 
-// Gives what a host writes in place of `former`, both of mirror members, the mark of a member that
-// was written alone, if `former` has it. A new order to both members, which names the partner and
-// has another time, is left as it is.
+// Leaves the mark of a member that was written alone as it is in `former`, in whose place a host
+// writes a record of the same time, both of mirror members; a host may know an earlier one. With
+// another time, a record that names no partner keeps a mark; one that does is a new order to both.
 void keep_alone_mark(sector_data& written, const sector_data& former);
 
 // The stamp for a text of 14 digits.

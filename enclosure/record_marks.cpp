@@ -26,6 +26,10 @@ bool set_alone_mark(disk_io& path, int port, std::uint64_t lba) {
     return change_record(path, port, lba, mark_alone);
 }
 
+bool clear_alone_mark(disk_io& path, int port, std::uint64_t lba) {
+    return change_record(path, port, lba, unmark_alone);
+}
+
 bool set_source_mark(disk_io& path, int port, std::uint64_t lba) {
     return change_record(path, port, lba, mark_source);
 }

@@ -14,6 +14,9 @@ namespace enclosure {
 // Data is going to be written to the member without its partner.
 bool set_alone_mark(disk_io& path, int port, std::uint64_t lba);
 
+// The partner has the same data again.
+bool clear_alone_mark(disk_io& path, int port, std::uint64_t lba);
+
 // Its partner carries the mark of a copy's source: with both, no copy is asked for.
 bool set_source_mark(disk_io& path, int port, std::uint64_t lba);
 

@@ -201,6 +201,23 @@ TEST_P(WrittenAlone, IsMarkedBeforeItIsWrittenOnBehindANewOrder) {
     expect_the_target_to_be_the_newer_half();
 }
 
+TEST_P(WrittenAlone, AsASourceIsInOrderWithItsTargetOnceThatHasBeenCopied) {
+    end_a_copy();
+    const std::shared_ptr<disk> away = host_.pull(target());
+    host_.expect_written(100, newer);
+    host_.put_in(target(), away);
+    host_.restart();
+    const std::array<bytes, ports> known{record_of(0), record_of(1)};
+    ASSERT_NE(known[static_cast<std::size_t>(source())][last_of_stamp], 0);
+    host_.finish_copy();
+    for (const int port : {0, 1}) {
+        host_writes(port, without_flags(known[static_cast<std::size_t>(port)]));
+    }
+    host_.restart();
+    EXPECT_EQ(host_.state(), volume_state::in_order);
+    EXPECT_EQ(host_.on_disk(target(), 100, 1), newer);
+}
+
 INSTANTIATE_TEST_SUITE_P(FromPort, WrittenAlone, testing::Values(0, 1));
 
 } // namespace
