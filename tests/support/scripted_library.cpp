@@ -96,17 +96,27 @@ sector_bytes scripted_library::sector(std::uint32_t device, int port, std::uint6
 
 void scripted_library::answer_nth(const std::string& beginning, int nth, library_answer answer) {
     const mutex_scope lock(mutex_);
-    interventions_.push_back({beginning, nth, false, std::move(answer), nullptr});
+    interventions_.push_back({beginning, nth, false, std::move(answer), nullptr, nullptr});
 }
 
 void scripted_library::answer_all(const std::string& beginning, library_answer answer) {
     const mutex_scope lock(mutex_);
-    interventions_.push_back({beginning, 1, true, std::move(answer), nullptr});
+    interventions_.push_back({beginning, 1, true, std::move(answer), nullptr, nullptr});
 }
 
 void scripted_library::on_nth(const std::string& beginning, int nth, std::function<void()> action) {
     const mutex_scope lock(mutex_);
-    interventions_.push_back({beginning, nth, false, {}, std::move(action)});
+    interventions_.push_back({beginning, nth, false, {}, std::move(action), nullptr});
+}
+
+void scripted_library::replace_nth(const std::string& beginning, int nth, answerer instead) {
+    const mutex_scope lock(mutex_);
+    interventions_.push_back({beginning, nth, false, {}, nullptr, std::move(instead)});
+}
+
+void scripted_library::forget_plans() {
+    const mutex_scope lock(mutex_);
+    interventions_.clear();
 }
 
 void scripted_library::on_call(hook every) {
@@ -130,6 +140,7 @@ std::vector<scripted_library::intervention> scripted_library::due(const library_
 
 library_answer scripted_library::answer(const library_call& call) {
     std::optional<library_answer> instead;
+    answerer answered_by;
     for (const intervention& planned : due(call)) {
         if (planned.action) {
             planned.action();
@@ -137,11 +148,17 @@ library_answer scripted_library::answer(const library_call& call) {
         if (planned.answer) {
             instead = planned.answer;
         }
+        if (planned.instead) {
+            answered_by = planned.instead;
+        }
     }
     if (instead) {
         return *instead;
     }
     const mutex_scope lock(mutex_);
+    if (answered_by) {
+        return answered_by(call, bridges_);
+    }
     return script_.begun() ? script_.play(call) : bridges_.answer(call);
 }
 

@@ -39,6 +39,11 @@ public:
     void answer_all(const std::string& beginning, library_answer answer);
     // Runs `action` within that call, before it is answered.
     void on_nth(const std::string& beginning, int nth, std::function<void()> action);
+    // That call is answered by `answerer`, on the bridges as they are then.
+    using answerer = std::function<library_answer(const library_call&, memory_enclosure&)>;
+    void replace_nth(const std::string& beginning, int nth, answerer instead);
+    // Nothing that was planned for a coming call happens any more.
+    void forget_plans();
     // Runs in every call, before it is answered.
     void on_call(hook every);
 
@@ -70,6 +75,7 @@ private:
         bool always = false;
         std::optional<library_answer> answer;
         std::function<void()> action;
+        answerer instead;
     };
 
     hook every_call();
