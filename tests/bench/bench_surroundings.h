@@ -1,4 +1,4 @@
-// What the model needs around it while it is measured: nothing that takes time of its own.
+// What the model needs around it while it is measured or stormed: nothing that takes time of its own.
 #pragma once
 
 #include <chrono>
@@ -51,7 +51,7 @@ public:
                  bool /*Raid*/) override {}
 };
 
-class no_window final : public window {
+class no_window : public window {
 public:
     void cleargui() override {}
     void update_raid_information() override {}

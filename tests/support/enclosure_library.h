@@ -5,7 +5,7 @@
 #include "enclosure/bridge_access.h"
 
 // Only forwards, argument by argument. Any thread.
-class enclosure_library final : public access_library {
+class enclosure_library : public access_library {
 public:
     // `access` outlives it.
     explicit enclosure_library(enclosure::bridge_access& access) : access_(access) {}
