@@ -9,9 +9,9 @@
 #include "model/krtool.h"
 #include "model/rescan.h"
 #include "model/wake_point.h"
-#include "tests/faults/fault.h"
 #include "tests/faults/swept_operation.h"
 #include "tests/support/change_fixture.h"
+#include "tests/support/fault.h"
 
 namespace {
 

@@ -8,6 +8,10 @@ bool library_call::per_device() const {
     return name != "getDeviceList" && name != "openConnection" && name != "closeConnection";
 }
 
+bool library_call::carries_bytes() const {
+    return record.has_value() || name.starts_with("get") || name.starts_with("krGet");
+}
+
 std::string sketch(const sector_bytes& sector) {
     if (std::all_of(sector.begin(), sector.end(), [](unsigned char c) { return c == 0; })) {
         return "zeros";

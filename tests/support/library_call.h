@@ -19,6 +19,8 @@ struct library_call {
 
     // True for the calls that are made one at a time.
     bool per_device() const;
+    // True for the calls that write a sector, or fill a buffer.
+    bool carries_bytes() const;
 };
 
 struct library_answer {

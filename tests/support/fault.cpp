@@ -1,4 +1,4 @@
-#include "tests/faults/fault.h"
+#include "tests/support/fault.h"
 
 #include <algorithm>
 
