@@ -1,4 +1,4 @@
-// What the model needs around it while it is measured or stormed: nothing that takes time of its own.
+// What the model needs around it in measurements and storms: nothing that takes time of its own.
 #pragma once
 
 #include <chrono>

@@ -1,23 +1,24 @@
 """The window in a storm, at real speed: enclosures and disks come and go while it is clicked about.
 
-storm.py BUILD, with KESTREL_STORM_SECONDS (300) and KESTREL_STORM_SEED. What the process takes of the
-machine may not grow: the second half is held against the first.
+storm.py BUILD [SECONDS [SEED]]. What the process takes of the machine may not grow: the second half is
+held against the first.
 """
 
 import os
 import random
+import sys
 import time
 
-from kestrel import Failure, Program, check, enclosure, run, wait_for
+from kestrel import Atspi, Failure, GLib, Program, check, enclosure, run, wait_for
 from pulse import Pulse
 
-SECONDS = int(os.environ.get("KESTREL_STORM_SECONDS", "300"))
-SEED = int(os.environ.get("KESTREL_STORM_SEED", random.SystemRandom().randrange(2**32)))
+SECONDS = int(sys.argv[2]) if len(sys.argv) > 2 else 300
+SEED = int(sys.argv[3]) if len(sys.argv) > 3 else random.SystemRandom().randrange(2**32)
 HANG = 5.0  # seconds
 BOXES = ("one", "two", "three")
 DISKS = "abcdefgh"
 BUTTONS = ("confirmbutton", "clearconfigbutton", "cleardisk0button", "cleardisk1button", "rebuild0to1button",
-           "rebuild1to0button", "warmbootbutton", "refreshbutton", "showdiskguibutton", "mainguibutton")
+           "rebuild1to0button", "warmbootbutton", "refresh_button", "showdiskguibutton", "mainguibutton")
 # What may come and go: a thread or two, a descriptor for each, and pictures that were drawn once.
 ALLOWED = {"descriptors": 5, "threads": 3, "KiB of memory": 8192}
 chance = random.Random(SEED)
@@ -25,12 +26,16 @@ program = pulse = None
 
 
 def take_figures():
+    """One sample, or none when the program is just ending."""
     folder = f"/proc/{program.process.pid}"
-    with open(f"{folder}/status", encoding="ascii") as lines:
-        status = dict(line.split(":", 1) for line in lines)
-    return {"descriptors": len(os.listdir(f"{folder}/fd")),
-            "threads": int(status["Threads"]),
-            "KiB of memory": int(status["VmRSS"].split()[0])}
+    try:
+        with open(f"{folder}/status", encoding="ascii") as lines:
+            status = dict(line.split(":", 1) for line in lines)
+        return [{"descriptors": len(os.listdir(f"{folder}/fd")),
+                 "threads": int(status["Threads"]),
+                 "KiB of memory": int(status["VmRSS"].split()[0])}]
+    except (OSError, KeyError):
+        return []
 
 
 def try_enclosure(*words):
@@ -52,31 +57,47 @@ def hands():
         try_enclosure(what, box)
 
 
+def press_if_there(outlet):
+    """What is there may go at any moment, and the program with it."""
+    try:
+        node = program.find(outlet)
+        if node and node.get_state_set().contains(Atspi.StateType.ENABLED):
+            Atspi.Action.do_action(node, 0)
+    except (GLib.Error, AttributeError):
+        pass
+
+
 def answer_whatever_is_asked():
-    panel = program.panel()
-    if panel:
-        button = chance.choice(("panel_default_button", "panel_second_button"))
-        for outlet in (button, "panel_default_button"):
-            if program.find(outlet):
-                program.press(outlet)
-                return
+    press_if_there(chance.choice(("panel_default_button", "panel_default_button", "panel_second_button")))
 
 
 def user():
     answer_whatever_is_asked()
-    outlet = chance.choice(BUTTONS)
-    if not program.panel() and program.enabled(outlet):
-        program.press(outlet)
+    press_if_there(chance.choice(BUTTONS))
 
 
-def alive():
-    if program.process.poll() is not None:
-        raise Failure(f"ended with {program.process.returncode}: {program.process.stderr.read()}")
+def ended():
+    """Whether it has left because a bridge was gone before it could be opened. Any other end fails."""
+    status = program.process.poll()
+    if status not in (None, 3):
+        raise Failure(f"ended with {status}: {program.process.stderr.read()}")
+    return status == 3
+
+
+def quiet():
+    answer_whatever_is_asked()
+    return not program.panel() and not program.busy()
+
+
+def the_window_opens():
+    global program, pulse
+    program = Program()
+    wait_for("the reading", quiet, 120)
+    pulse = Pulse(program.process.pid).start()
 
 
 def the_desk_is_laid():
-    global program, pulse
-    print(f"KESTREL_STORM_SECONDS={SECONDS} KESTREL_STORM_SEED={SEED}", flush=True)
+    print(f"storm.py BUILD {SECONDS} {SEED}", flush=True)
     for disk in DISKS:
         enclosure("disk", disk, "--size", "65536", "--serial", f"SERIAL-{disk}")
     for index, box in enumerate(BOXES):
@@ -85,18 +106,31 @@ def the_desk_is_laid():
         enclosure("insert", box, "1", DISKS[2 * index + 1])
         enclosure("scenario", box, "raid1")
         enclosure("plug", box)
-    program = Program()
-    wait_for("the reading", lambda: program.text("disk1modelfield") and not program.busy())
-    pulse = Pulse(program.process.pid).start()
+
+
+def storm():
+    """What the process took at each step; nothing when it left midway, and was started again."""
+    samples = []
+    end = time.monotonic() + SECONDS
+    while time.monotonic() < end:
+        chance.choice((hands, user, user))()
+        if ended():
+            print("left, for a bridge was gone before it could be opened")
+            pulse.stop()
+            the_window_opens()
+            return []
+        samples += take_figures()
+    return samples
 
 
 def it_storms():
     samples = []
-    end = time.monotonic() + SECONDS
-    while time.monotonic() < end:
-        alive()
-        chance.choice((hands, user, user))()
-        samples.append(take_figures())
+    while not samples:
+        samples = storm()
+    expect_flat(samples)
+
+
+def expect_flat(samples):
     middle = len(samples) // 2
     print(f"{len(samples)} steps")
     for what, allowed in ALLOWED.items():
@@ -108,10 +142,6 @@ def it_storms():
 
 
 def the_window_is_there_afterwards():
-    def quiet():
-        answer_whatever_is_asked()
-        return not program.panel() and not program.busy()
-
     wait_for("the end of the messages", quiet, 120)
     pulse.stop()
     print(pulse.report())
@@ -120,4 +150,4 @@ def the_window_is_there_afterwards():
     check("status", program.end()[0], 0)
 
 
-run(the_desk_is_laid, it_storms, the_window_is_there_afterwards)
+run(the_desk_is_laid, the_window_opens, it_storms, the_window_is_there_afterwards)
