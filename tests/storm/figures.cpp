@@ -44,11 +44,12 @@ figures figures::now() {
 
 bool figure_log::flat() const {
     constexpr long few = 3;
-    // A sanitizer keeps what was freed for a while, and its own records of it.
+    // Each thread's first allocations and each copy's buffer take a few megabytes at once, whenever
+    // they come. A sanitizer keeps what was freed for a while, and its own records of it.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     constexpr long memory = 32768;
 #else
-    constexpr long memory = 2048;
+    constexpr long memory = 8192;
 #endif
     const bool descriptors = compare(all_, "descriptors", &figures::descriptors, few);
     const bool threads = compare(all_, "threads", &figures::threads, few);
