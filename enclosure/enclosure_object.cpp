@@ -1,40 +1,10 @@
 #include "enclosure/enclosure_object.h"
 
-#include "enclosure/option_reader.h"
+#include "enclosure/request_values.h"
 
-#include <algorithm>
 #include <tuple>
 
 namespace enclosure {
-
-namespace {
-
-fault_rule rule_from(const bus::options& values) {
-    option_reader reader(values);
-    fault_rule rule;
-    const auto kind = fault_kind_named(reader.take<std::string>("Kind").value_or(""));
-    const auto operation = operation_named(reader.take<std::string>("Operation").value_or(""));
-    if (!kind || !operation) {
-        throw problem("fault: take fail, flip, drop, delay, time-out or tear for read, write, "
-                      "flush or identify");
-    }
-    rule.kind = *kind;
-    rule.operation = *operation;
-    if (const auto port = reader.take<std::uint32_t>("Port")) {
-        rule.port = static_cast<int>(std::min<std::uint32_t>(*port, ports));
-    }
-    rule.first_lba = reader.take<std::uint64_t>("FirstLba").value_or(rule.first_lba);
-    rule.last_lba = reader.take<std::uint64_t>("LastLba").value_or(rule.last_lba);
-    rule.nth = reader.take<std::uint32_t>("Nth").value_or(rule.nth);
-    rule.byte = reader.take<std::uint32_t>("Byte").value_or(rule.byte);
-    if (const auto delay = reader.take<std::uint32_t>("Delay")) {
-        rule.delay = std::chrono::milliseconds(*delay);
-    }
-    reader.finish();
-    return rule;
-}
-
-} // namespace
 
 enclosure_object::enclosure_object(service_context& context, std::string name)
     : context_(context),
