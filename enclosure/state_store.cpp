@@ -25,13 +25,26 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t longest_file = 65536; // bytes
 
+// For its owner alone, as are the folders above it that are missing.
 void make_folder(const fs::path& folder) {
     std::error_code trouble;
-    fs::create_directories(folder, trouble);
-    if (trouble) {
-        throw problem("cannot make folder " + folder.string() + ": " + trouble.message() +
+    if (fs::is_directory(folder, trouble)) {
+        return;
+    }
+    if (folder.has_parent_path()) {
+        make_folder(folder.parent_path());
+    }
+    if (::mkdir(folder.c_str(), 0700) != 0) {
+        throw problem("cannot make folder " + folder.string() + ": " + reason() +
                       "; make it or set XDG_DATA_HOME");
     }
+}
+
+// It may be an older one that others can look into. Where that cannot be helped, the files in it
+// are still their owner's alone.
+void close_to_others(const fs::path& folder) {
+    std::error_code ignored;
+    fs::permissions(folder, fs::perms::owner_all, ignored);
 }
 
 file_handle take(const fs::path& file) {
@@ -139,6 +152,7 @@ state_store::state_store(fs::path folder, reporter report)
     : folder_(std::move(folder)), report_(std::move(report)) {
     make_folder(folder_ / "enclosures");
     make_folder(folder_ / "disks");
+    close_to_others(folder_);
     lock_ = take(folder_ / "lock");
 }
 

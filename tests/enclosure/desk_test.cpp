@@ -68,8 +68,15 @@ protected:
 };
 
 TEST_F(Desk, NamesCannotLeaveTheFolder) {
-    EXPECT_THROW(add_disk("../escape"), problem);
-    EXPECT_THROW(desk_.add_enclosure(usb_settings("/etc")), problem);
+    const std::string zero("a\0b", 3);
+    for (const std::string& name :
+         {std::string("../escape"), std::string("/etc"), std::string(".."), std::string(), zero,
+          std::string(100'000, 'a')}) {
+        EXPECT_THROW(add_disk(name), problem) << name;
+        EXPECT_THROW(desk_.remove_disk(name), problem) << name;
+        EXPECT_THROW(desk_.add_enclosure(usb_settings(name)), problem) << name;
+        EXPECT_THROW(desk_.remove_enclosure(name), problem) << name;
+    }
     EXPECT_TRUE(std::filesystem::is_empty(folder_.path()));
 }
 

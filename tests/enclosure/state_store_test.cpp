@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
+#include <filesystem>
 #include <fstream>
 
 namespace enclosure {
@@ -42,6 +45,45 @@ TEST_F(StateStore, ANewFolderIsAnEmptyDesk) {
     const kept_desk life(folder_.path());
     EXPECT_TRUE(life.on.enclosures().empty());
     EXPECT_TRUE(life.lines.empty());
+}
+
+// The bits for the group and for others.
+std::filesystem::perms open_to_others(const std::filesystem::path& path) {
+    return std::filesystem::status(path).permissions() &
+           (std::filesystem::perms::group_all | std::filesystem::perms::others_all);
+}
+
+TEST_F(StateStore, FoldersAndFilesAreTheirOwnersAlone) {
+    const mode_t usual = ::umask(0);
+    const std::filesystem::path state = folder_.path() / "data" / "kestrelraid";
+    {
+        kept_desk life(state);
+        life.on.add_enclosure(usb_settings("box"));
+        life.on.add_disk("a", build_identify(label_of(100)));
+        life.on.plug("box", 0ns);
+    }
+    ::umask(usual);
+    EXPECT_EQ(open_to_others(folder_.path() / "data"), std::filesystem::perms::none);
+    EXPECT_EQ(open_to_others(state), std::filesystem::perms::none);
+    int files = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(state)) {
+        EXPECT_EQ(open_to_others(entry.path()), std::filesystem::perms::none) << entry.path();
+        files += entry.is_regular_file() ? 1 : 0;
+    }
+    EXPECT_EQ(files, 5); // lock, handles, enclosure, disk and image
+}
+
+TEST_F(StateStore, AnOlderFolderIsClosedToOthers) {
+    const std::filesystem::path state = folder_.path() / "kestrelraid";
+    std::filesystem::create_directory(state);
+    std::filesystem::permissions(state, std::filesystem::perms::all);
+    const kept_desk life(state);
+    EXPECT_EQ(open_to_others(state), std::filesystem::perms::none);
+}
+
+TEST_F(StateStore, AFolderThatCannotBeMadeIsRefused) {
+    spoil("file", "in the way");
+    EXPECT_THROW(kept_desk(folder_.path() / "file" / "kestrelraid"), problem);
 }
 
 TEST_F(StateStore, EverythingIsThereAgain) {
