@@ -9,6 +9,9 @@ if(KESTREL_SANITIZE)
     add_compile_options(-fsanitize=${KESTREL_SANITIZE} -fno-sanitize-recover=all
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${KESTREL_SANITIZE})
+    if(KESTREL_FUZZ)
+        add_compile_options(-fsanitize=fuzzer-no-link)
+    endif()
 else()
     target_compile_options(kestrel_options INTERFACE
         -fstack-protector-strong $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
