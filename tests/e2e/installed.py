@@ -9,6 +9,7 @@ import xml.etree.ElementTree
 
 from kestrel import BUILD, check, run, without_devices
 
+CHECK_HARDENING = os.path.join(os.path.dirname(__file__), "..", "..", "scripts", "check-hardening")
 NAME = "org.kestrelraid.KestrelRaid"
 folder = tempfile.TemporaryDirectory()
 ROOT = folder.name
@@ -35,6 +36,32 @@ def a_makers_library_goes_before_the_bundled_one():
     check("folders", "[/usr/local/lib:$ORIGIN/../lib/kestrelraid]" in header, True)
     check("bundled", os.path.exists(f"{ROOT}/lib/kestrelraid/libkrraid.so"), True)
     check("mistaken for a maker's", os.path.exists(f"{ROOT}/lib/libkrraid.so"), False)
+
+
+def everything_is_hardened():
+    files = [f"{ROOT}/bin/{name}" for name in ("kestrelraid", "krenclosure", "krenclosured")]
+    told = subprocess.run([CHECK_HARDENING, "--installed", *files, f"{ROOT}/lib/kestrelraid/libkrraid.so"],
+                          capture_output=True, text=True, timeout=60)
+    check("what is missing", told.stderr, "")
+    check("looked at", told.returncode, 0)
+
+
+def the_services_unit_is_valid_and_the_one_that_the_bus_starts():
+    with open(f"{ROOT}/share/systemd/user/krenclosured.service", encoding="utf-8") as file:
+        unit = file.read()
+    # It names the program where the final prefix has it.
+    tried = os.path.join(ROOT, "krenclosured.service")
+    with open(tried, "w", encoding="utf-8") as file:
+        file.write(re.sub("ExecStart=.*", f"ExecStart={ROOT}/bin/krenclosured", unit))
+    told = subprocess.run(["systemd-analyze", "--user", "--man=no", "verify", tried],
+                          capture_output=True, text=True, timeout=60)
+    check("complaints", told.stdout + told.stderr, "")
+    bus = configparser.ConfigParser(interpolation=None)
+    bus.read(f"{ROOT}/share/dbus-1/services/org.kestrelraid.Enclosure1.service", encoding="utf-8")
+    entry = bus["D-BUS Service"]
+    check("unit", entry["SystemdService"], os.path.basename(tried))
+    check("bus name", f"BusName={entry['Name']}\n" in unit, True)
+    check("program", f"ExecStart={entry['Exec']}\n" in unit, True)
 
 
 def the_menu_entry_is_valid():
@@ -86,5 +113,7 @@ def its_icon_has_all_sizes():
 
 
 run(it_can_be_installed_anywhere, the_program_starts_with_an_access_library,
-    a_makers_library_goes_before_the_bundled_one, the_menu_entry_is_valid, what_software_centres_read_is_valid,
-    every_program_has_a_manual_page_in_good_order, the_emulators_page_names_every_command, its_icon_has_all_sizes)
+    a_makers_library_goes_before_the_bundled_one, everything_is_hardened,
+    the_services_unit_is_valid_and_the_one_that_the_bus_starts, the_menu_entry_is_valid,
+    what_software_centres_read_is_valid, every_program_has_a_manual_page_in_good_order,
+    the_emulators_page_names_every_command, its_icon_has_all_sizes)
