@@ -73,6 +73,7 @@ void scan(std::int32_t list_status, std::int32_t open_status) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     world().reset();
+    world().log.keep_only(from_library);
     byte_source source(data, size);
     library_answer answer{static_cast<std::int32_t>(source.number(1)), {}, {}};
     answer.count = static_cast<std::int32_t>(source.number(4));

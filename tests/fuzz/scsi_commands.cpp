@@ -29,7 +29,7 @@ public:
     void step(byte_source& source) {
         switch (source.byte() % 8) {
         case 0:
-            now_ += std::chrono::milliseconds(source.byte());
+            now_ += std::chrono::milliseconds(source.byte() % 16);
             chip_.advance(now_);
             break;
         case 1:
