@@ -565,10 +565,9 @@ TEST_F(in_use, VolumeKeepsTheFirstEnclosureFromBeingRestarted) {
 
 TEST_F(in_use, VolumeThatIsMountedWhileAMonitorHoldsUpTheRestartIsFoundOut) {
     read_named_bridge();
-    threads.reset(); // the thread for hot-plug events stays away
     {
-        const gate_scope work(j.gate);
-        j.chips[0].start_raid1_timer();
+        const lock_scope lock(j.records);
+        j.chips[0].raid1_timer_alive = true; // until nobody waits for it any longer
     }
     j.warm_boot_pending = false;
     volumes.on_nth_look(2, [this] { volumes.mount(device, "/media/a"); });
