@@ -115,9 +115,11 @@ TEST_F(DeviceTree, IgnoresAMapThatIsLongerThanTheList) {
 TEST_F(DeviceTree, IgnoresAMapThatPointsOutsideTheList) {
     attach(0x11, usb_bridge(1, 2, 3), memory_disk(disk_a()));
     read_everything();
-    j.controller_map = {{3, 5}, {4, -1}};
-    build();
-    EXPECT_EQ(tree_of_j().text(), "");
+    for (const std::int32_t outside : {1, 5, -1}) {
+        j.controller_map = {{3, outside}};
+        build();
+        EXPECT_EQ(tree_of_j().text(), "") << outside;
+    }
     j.controller_map.clear();
     build();
     EXPECT_EQ(tree_of_j().text(), "");

@@ -93,6 +93,14 @@ TEST_F(Scan, TakesAFirewireIdentityFromFourLevelsUp) {
     EXPECT_EQ(identity.serial, "");
 }
 
+TEST_F(Scan, GivesAFirewireBridgeNoSerialNumberOfTheUsbBridgeBeforeIt) {
+    attach_usb(0x11, 2, 0x14100000);
+    attach(0x12, firewire_bridge(0xABCDEF));
+    scan();
+    EXPECT_EQ(j.chips.at(0).identity.serial, "SN");
+    EXPECT_EQ(j.chips.at(1).identity.serial, "");
+}
+
 TEST_F(Scan, TakesAMissingPropertyAsZeroOrEmpty) {
     attach(0x11, {});
     registered_bridge firewire = firewire_bridge(0);
