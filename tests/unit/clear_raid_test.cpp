@@ -176,6 +176,7 @@ TEST_F(ClearRaid, ThroughTheToolChangesTheChipWithThatIndex) {
     EXPECT_EQ(log.count("krSetRaidInfo(0x11, "), 0U);
     library.answer_all("krSetRaidInfo(0x11, zeros, 512, 1999", {1});
     EXPECT_FALSE(perform([] { return j.clear_raid(0); }));
+    EXPECT_EQ(log.count("krSetRaidInfo(0x11, zeros"), 130U);
 }
 
 TEST_F(ClearRaid, ThroughTheToolOfAChipThatIsNotThereDoesNothing) {

@@ -291,6 +291,7 @@ TEST_F(CreateRaid, ThroughTheToolReturnsTheChipsResult) {
     take_blank_chip();
     library.answer_all("krSetRaidInfo(0x11, KR", {1});
     EXPECT_FALSE(perform([] { return j.build_raid(0, 2, true); }));
+    EXPECT_EQ(log.count("krSetRaidInfo(0x11, KR"), 2U);
 }
 
 TEST_F(CreateRaid, ThroughTheToolOfAChipThatIsNotThereDoesNothing) {

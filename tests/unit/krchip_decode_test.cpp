@@ -14,12 +14,18 @@ namespace {
 
 constexpr std::uint64_t array_size = 1900; // sectors
 
+// The name of what is 1; any other number is told as well.
+std::string named(int value, const std::string& name) {
+    return value == 1 ? name : name + "=" + std::to_string(value);
+}
+
 std::string flag(int value, const std::string& name) {
-    return value != 0 ? " " + name : "";
+    return value != 0 ? " " + named(value, name) : "";
 }
 
 std::string state_of(const krdisk& disk) {
-    return (disk.present != 0 ? "mode " + std::to_string(disk.raid_mode) : "absent") +
+    return (disk.present != 0 ? named(disk.present, "mode") + " " + std::to_string(disk.raid_mode)
+                              : "absent") +
            flag(disk.member_mismatch, "mismatch") + flag(disk.raid1_orphan, "orphan") +
            flag(disk.rebuild_mark, "marked") +
            (disk.rebuild_role != 0 ? " role " + std::to_string(disk.rebuild_role) : "");
@@ -27,8 +33,9 @@ std::string state_of(const krdisk& disk) {
 
 // What the chip's record says, as a line for the whole and one for each disk.
 std::string state_of(const krchip& chip) {
-    const std::string array = chip.raid_valid != 0 ? "valid " + std::to_string(chip.raid_mode) +
-                                                         " of " + std::to_string(chip.raid_capacity)
+    const std::string array = chip.raid_valid != 0 ? named(chip.raid_valid, "valid") + " " +
+                                                         std::to_string(chip.raid_mode) + " of " +
+                                                         std::to_string(chip.raid_capacity)
                                                    : "no array";
     return array + flag(chip.rebuild_possible, "possible") + flag(chip.rebuild_pending, "pending") +
            flag(chip.polling ? 1 : 0, "polling") + "\n" + state_of(chip.disks[0]) + "\n" +

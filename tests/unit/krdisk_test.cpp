@@ -220,6 +220,21 @@ TEST(MetadataAddress, LiesBeyondAnyDiskWhenTheSizeIsUnknownOrTooSmall) {
     EXPECT_EQ(disk.metadata_lba(), 0U);
 }
 
+TEST(PartnerOfADisk, IsNobodyOnlyWhenAllBytesOfModelAndSerialAreZero) {
+    krdisk disk;
+    EXPECT_TRUE(disk.names_nobody());
+    for (const std::size_t place : {std::size_t{0}, model_size - 1}) {
+        disk.partner_model_raw[place] = 1;
+        EXPECT_FALSE(disk.names_nobody());
+        disk.partner_model_raw[place] = 0;
+    }
+    for (const std::size_t place : {std::size_t{0}, serial_size - 1}) {
+        disk.partner_serial_raw[place] = 1;
+        EXPECT_FALSE(disk.names_nobody());
+        disk.partner_serial_raw[place] = 0;
+    }
+}
+
 TEST(DiskRecord, ClearedLosesOnlyItsPresence) {
     krdisk disk = disk_from(identify_of("DISK A", "SN-A", 5000));
     disk.present = 1;

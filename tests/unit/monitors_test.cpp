@@ -7,9 +7,32 @@
 
 namespace {
 
+class Monitors : public Monitor {};
 class StopSequence : public Monitor {};
 
 } // namespace
+
+TEST_F(Monitors, AreThereAsSoonAsOneOfThemHasBeenStarted) {
+    krchip& timed = take_chip(member_a(2), member_b(2));
+    EXPECT_FALSE(timed.has_monitors());
+    start_timer_of(timed);
+    EXPECT_TRUE(timed.has_monitors());
+    krchip& polled = take_rebuild();
+    EXPECT_FALSE(polled.has_monitors());
+    start_poller_of(polled);
+    EXPECT_TRUE(polled.has_monitors());
+}
+
+TEST_F(Monitors, AreThereWhileAFlagWithoutAThreadIsUp) {
+    krchip& chip = take_chip(member_a(2), member_b(2));
+    chip.raid1_timer_alive = true;
+    EXPECT_TRUE(chip.has_monitors());
+    chip.raid1_timer_alive = false;
+    chip.poller_alive = true;
+    EXPECT_TRUE(chip.has_monitors());
+    chip.poller_alive = false;
+    EXPECT_FALSE(chip.has_monitors());
+}
 
 TEST_F(StopSequence, OfIdleMonitorsHidesTheProgressAndSleepsNever) {
     krchip& chip = take_chip(member_a(2), member_b(2));

@@ -55,6 +55,7 @@ TEST_F(Poller, ThatCannotBeCreatedEndsTheProcess) {
         (lines{"disablegui(true)", "startprogressbar()", "showrebuildbuttons()", "thread refused",
                "show_error_and_exit(\"Error creating polling thread..Exiting\")"}));
     EXPECT_FALSE(chip.polling);
+    EXPECT_FALSE(chip.has_monitors()) << "somebody would wait for it";
 }
 
 TEST_F(Poller, ShowsEndAndCurrentAndSleepsFourSeconds) {

@@ -43,6 +43,7 @@ TEST_F(Timer, ThatCannotBeCreatedEndsTheProcess) {
     EXPECT_EQ(log.take(),
               (lines{"thread refused",
                      "show_error_and_exit(\"Error creating RAID1 timer thread..Exiting\")"}));
+    EXPECT_FALSE(chip.has_monitors()) << "somebody would wait for it";
 }
 
 TEST_F(Timer, ReadsBothPortsOnceASecondWithTheMutexHeldOnlyForTheReads) {

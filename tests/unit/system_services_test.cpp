@@ -2,8 +2,12 @@
 
 #include <chrono>
 #include <ctime>
+#include <functional>
 #include <future>
 #include <gtest/gtest.h>
+#include <memory>
+#include <stdexcept>
+#include <string>
 #include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
@@ -48,6 +52,28 @@ TEST(DetachedThreads, RunTheirBodyOnAnotherThread) {
     std::promise<std::thread::id> ran;
     ASSERT_TRUE(threads.start([&ran] { ran.set_value(std::this_thread::get_id()); }));
     EXPECT_NE(ran.get_future().get(), std::this_thread::get_id());
+}
+
+namespace {
+
+// What standard error is told of a thread with that body, until the thread has let go of it.
+std::string told_of(const std::function<void()>& body) {
+    std::promise<void> over;
+    testing::internal::CaptureStderr();
+    detached_threads threads;
+    const auto tell = [&over](const void*) { over.set_value(); };
+    threads.start([body, life = std::shared_ptr<const void>(nullptr, tell)] { body(); });
+    over.get_future().wait();
+    return testing::internal::GetCapturedStderr();
+}
+
+} // namespace
+
+TEST(DetachedThreads, EndWithALineWhenTheirBodyThrows) {
+    EXPECT_EQ(told_of([] { throw std::runtime_error("no room"); }),
+              "kestrelraid: a background thread ended: no room\n");
+    EXPECT_EQ(told_of([] { throw 7; }), "kestrelraid: a background thread ended\n");
+    EXPECT_EQ(told_of([] {}), "");
 }
 
 // Sanitizers take the room for themselves.
