@@ -158,8 +158,6 @@ TEST_F(UsbipServer, WhoCannotBeTakenKeepsNobodyBusyAndIsTakenLater) {
     EXPECT_EQ(server_.next_event(), std::nullopt);
 }
 
-#endif
-
 TEST_F(UsbipServer, WhoCannotBeTakenIsTakenWhenAnotherHasGone) {
     auto first = client();
     EXPECT_EQ(first->ask(import_request("1-1"), 320).size(), 320U);
@@ -171,6 +169,8 @@ TEST_F(UsbipServer, WhoCannotBeTakenIsTakenWhenAnotherHasGone) {
     first.reset();
     EXPECT_EQ(late->hear(328).size(), 328U);
 }
+
+#endif
 
 TEST_F(UsbipServer, APortInUseIsSaidInOneLine) {
     try {
