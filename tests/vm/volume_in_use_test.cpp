@@ -65,6 +65,7 @@ TEST_F(VolumeInUse, IsASwapAreaOnAPartition) {
 TEST_F(VolumeInUse, IsALoopDevice) {
     run("losetup /dev/loop0 /dev/" + volume_);
     EXPECT_THAT(uses(), ElementsAre(volume_use{volume_use_kind::held, volume_, "loop0"}));
+    run("udevadm settle --timeout=60"); // while udev looks at it, it stays after it was given back
     run("losetup -d /dev/loop0");
     EXPECT_THAT(uses(), IsEmpty());
 }
