@@ -32,8 +32,8 @@ krchip mirror() {
         krdisk& disk = chip.disks[port];
         disk.present = 1;
         disk.capacity = sectors;
-        disk.model = "WDC WD20EFRX-68EUZN0";
-        disk.serial = "WD-WCC4M0XJ2K7L";
+        disk.model = "EXAMPLE DISK 2000 GB";
+        disk.serial = "EX-0123456789AB";
         disk.take_record(pair[port], true);
     }
     chip.read_raid_combined_info();

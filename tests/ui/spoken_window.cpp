@@ -204,7 +204,7 @@ void spoken_window::visit_dialog(const std::function<void(input_guard& guard)>& 
 void spoken_window::prepare_disks(krchip& chip, int mode0, int mode1) {
     put_disk(chip.disks[0], two_terabytes, mode0, two_terabytes - 16);
     put_disk(chip.disks[1], two_terabytes, mode1, two_terabytes - 16);
-    chip.disks[0].model = chip.disks[1].model = "WDC WD20EFRX-68EUZN0";
+    chip.disks[0].model = chip.disks[1].model = "EXAMPLE DISK 2000 GB";
     chip.disks[0].serial = "WD-WCC4M0XJ2K7L";
     chip.disks[1].serial = "WD-WCC4M5PR81TC";
     chip.identity.serial = "ABC123";
@@ -246,8 +246,8 @@ void spoken_window::show_information() {
     tree_data.cleartree();
     tree_data.addchipFirewire(false);
     tree_data.addraid(0, "Kestrel Duo (SN: ABC123)");
-    tree_data.adddisk(0, "M0: WDC WD20EFRX-68EUZN0", true);
-    tree_data.adddisk(0, "M1: WDC WD20EFRX-68EUZN0", true);
+    tree_data.adddisk(0, "M0: EXAMPLE DISK 2000 GB", true);
+    tree_data.adddisk(0, "M1: EXAMPLE DISK 2000 GB", true);
     tree_data.addchipFirewire(true);
     tree_data.adddisk(1, "P0: ST3000DM001-1CH166", false);
     window->refreshtree();
