@@ -51,7 +51,7 @@ constexpr std::array<std::string_view, 43> designed = {
     "device",
 };
 
-constexpr std::array<std::string_view, 130> of_the_window = {
+constexpr std::array<std::string_view, 131> of_the_window = {
     "ui_controllers",
     "ui_system_information",
     "ui_devices",
@@ -175,6 +175,7 @@ constexpr std::array<std::string_view, 130> of_the_window = {
     "ui_remedy_unmount",
     "ui_remedy_swapoff",
     "ui_remedy_release",
+    "ui_remedy_close",
     "ui_remedy_reconnect",
     "ui_try_again",
     "ui_use_mounted",

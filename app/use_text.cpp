@@ -25,6 +25,8 @@ const char* remedy_key(volume_use_kind kind) {
         return "ui_remedy_swapoff";
     case volume_use_kind::held:
         return "ui_remedy_release";
+    case volume_use_kind::open:
+        return "ui_remedy_close";
     case volume_use_kind::unchecked:
         break;
     }
@@ -40,7 +42,7 @@ std::string message_of(const std::vector<volume_use>& uses, const text_lookup& t
     const bool in_use = uses.front().kind != volume_use_kind::unchecked; // which comes last
     std::string message = texts.text(in_use ? "ui_volume_in_use" : "ui_volume_unchecked");
     for (const auto kind : {volume_use_kind::mounted, volume_use_kind::swap, volume_use_kind::held,
-                            volume_use_kind::unchecked}) {
+                            volume_use_kind::open, volume_use_kind::unchecked}) {
         if (has(uses, kind)) {
             add_sentence(message, texts.text(remedy_key(kind)));
         }
@@ -57,6 +59,7 @@ std::string line_of(const volume_use& use, const text_lookup& texts) {
     case volume_use_kind::swap:
         return filled(texts.text("ui_use_swap"), {use.device});
     case volume_use_kind::held:
+    case volume_use_kind::open:
         return filled(texts.text("ui_use_held"), {use.device, where});
     case volume_use_kind::unchecked:
         break;

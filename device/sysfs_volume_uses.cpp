@@ -153,7 +153,7 @@ void volume_look::find_hidden_mounts() {
             continue;
         }
         for (const std::string& kind : devices_.file_systems_on(device)) {
-            held_.push_back({volume_use_kind::held, device.shown, kind});
+            held_.push_back({volume_use_kind::open, device.shown, kind});
         }
     }
 }

@@ -405,7 +405,7 @@
     </message>
     <message id="ui_closed_text">
         <source></source>
-        <translation>%1: Sie dürfen es nicht verwenden. Melden Sie sich direkt an diesem Computer an oder bitten Sie den Administrator um Zugriff. Klicken Sie dann auf „%2“.</translation>
+        <translation>%1: Ihnen fehlen die Zugriffsrechte. Melden Sie sich direkt an diesem Computer an oder bitten Sie den Administrator um Zugriff. Klicken Sie dann auf „%2“.</translation>
     </message>
     <message id="ui_silent_heading">
         <source></source>
@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1: Es antwortet nicht als RAID-Gehäuse, oder ein anderes Programm verwendet es. Werfen Sie das Laufwerk aus, schalten Sie das Gehäuse aus und wieder ein und klicken Sie dann auf „%2“.</translation>
+        <translation>%1: Keine Antwort als RAID-Gehäuse, oder ein anderes Programm greift darauf zu. Werfen Sie das Volume aus, schalten Sie das Gehäuse aus und wieder ein und klicken Sie dann auf „%2“.</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -665,11 +665,15 @@
     </message>
     <message id="ui_remedy_release">
         <source></source>
-        <translation>Beenden Sie, was es belegt, etwa Verschlüsselung, LVM oder Software-RAID.</translation>
+        <translation>Beenden Sie, was das Volume belegt, etwa Verschlüsselung, LVM oder Software-RAID.</translation>
+    </message>
+    <message id="ui_remedy_close">
+        <source></source>
+        <translation>Beenden Sie, was das Dateisystem noch geöffnet hat, etwa einen Container, oder starten Sie den Computer neu.</translation>
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>Werfen Sie das Laufwerk aus, trennen Sie das Gehäuse und schließen Sie es wieder an.</translation>
+        <translation>Werfen Sie das Volume aus, ziehen Sie das Gehäuse ab und schließen Sie es wieder an.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

@@ -405,15 +405,15 @@
     </message>
     <message id="ui_closed_text">
         <source></source>
-        <translation>%1: you have no permission to use it. Log in at this computer itself, or ask its administrator for access. Then press “%2”.</translation>
+        <translation>%1: you do not have permission. Log in at this computer directly, or ask its administrator for access. Then press “%2”.</translation>
     </message>
     <message id="ui_silent_heading">
         <source></source>
-        <translation>The enclosure does not answer</translation>
+        <translation>The enclosure does not respond</translation>
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1: it does not answer as a RAID enclosure, or another program is using it. Eject its volume, switch it off and on again, then press “%2”.</translation>
+        <translation>%1: no response as a RAID enclosure, or another program is using it. Eject the volume, switch the enclosure off and on again, then press “%2”.</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -653,7 +653,7 @@
     </message>
     <message id="ui_volume_unchecked">
         <source></source>
-        <translation>It could not be found out whether the volume of the enclosure is in use, so nothing has been changed.</translation>
+        <translation>It could not be determined whether the volume of the enclosure is in use, so nothing has been changed.</translation>
     </message>
     <message id="ui_remedy_unmount">
         <source></source>
@@ -665,11 +665,15 @@
     </message>
     <message id="ui_remedy_release">
         <source></source>
-        <translation>Stop what holds it, such as encryption, LVM or software RAID.</translation>
+        <translation>Stop what holds the volume, such as encryption, LVM or software RAID.</translation>
+    </message>
+    <message id="ui_remedy_close">
+        <source></source>
+        <translation>Stop what still has the file system open, such as a container, or restart the computer.</translation>
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>Eject its volume, then disconnect the enclosure and connect it again.</translation>
+        <translation>Eject the volume, then disconnect the enclosure and connect it again.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

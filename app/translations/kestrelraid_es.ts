@@ -405,7 +405,7 @@
     </message>
     <message id="ui_closed_text">
         <source></source>
-        <translation>%1: no tiene permiso para usarla. Inicie sesión en este mismo equipo o pida acceso a su administrador. Después pulse «%2».</translation>
+        <translation>%1: no tiene permiso de acceso. Inicie sesión directamente en este equipo o pida al administrador que se lo conceda. Después pulse «%2».</translation>
     </message>
     <message id="ui_silent_heading">
         <source></source>
@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 está conectada, pero no responde como caja RAID, o la usa otro programa. Expulse su volumen, apáguela, vuelva a encenderla y pulse «%2».</translation>
+        <translation>%1: sin respuesta como caja RAID, o en uso por otro programa. Expulse el volumen, apague la caja, vuelva a encenderla y pulse «%2».</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -665,11 +665,15 @@
     </message>
     <message id="ui_remedy_release">
         <source></source>
-        <translation>Detenga lo que lo ocupa, como un cifrado, LVM o un RAID por software.</translation>
+        <translation>Detenga lo que ocupa el volumen, como cifrado, LVM o RAID por software.</translation>
+    </message>
+    <message id="ui_remedy_close">
+        <source></source>
+        <translation>Cierre lo que mantiene abierto el sistema de archivos, como un contenedor, o reinicie el equipo.</translation>
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>Expulse su volumen, desconecte la caja y vuelva a conectarla.</translation>
+        <translation>Expulse el volumen, desconecte la caja y vuelva a conectarla.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>
@@ -693,7 +697,7 @@
     </message>
     <message id="ui_plan_refused">
         <source></source>
-        <translation>No se ha hecho: %1</translation>
+        <translation>No realizado: «%1»</translation>
     </message>
 </context>
 </TS>

@@ -405,7 +405,7 @@
     </message>
     <message id="ui_closed_text">
         <source></source>
-        <translation>%1 : vous n’êtes pas autorisé à l’utiliser. Ouvrez une session sur cet ordinateur même ou demandez l’accès à son administrateur, puis cliquez sur « %2 ».</translation>
+        <translation>%1 : vous n’avez pas les droits d’accès. Ouvrez une session directement sur cet ordinateur ou demandez à l’administrateur de vous les accorder, puis cliquez sur « %2 ».</translation>
     </message>
     <message id="ui_silent_heading">
         <source></source>
@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 est connecté, mais ne répond pas comme un boîtier RAID, ou un autre programme l’utilise. Éjectez son volume, éteignez et rallumez le boîtier, puis cliquez sur « %2 ».</translation>
+        <translation>%1 : pas de réponse en tant que boîtier RAID, ou utilisation par un autre programme. Éjectez le volume, éteignez et rallumez le boîtier, puis cliquez sur « %2 ».</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -665,11 +665,15 @@
     </message>
     <message id="ui_remedy_release">
         <source></source>
-        <translation>Arrêtez ce qui l’occupe, par exemple un chiffrement, LVM ou un RAID logiciel.</translation>
+        <translation>Arrêtez ce qui occupe le volume, par exemple un chiffrement, LVM ou un RAID logiciel.</translation>
+    </message>
+    <message id="ui_remedy_close">
+        <source></source>
+        <translation>Arrêtez ce qui garde le système de fichiers ouvert, par exemple un conteneur, ou redémarrez l’ordinateur.</translation>
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>Éjectez son volume, puis débranchez le boîtier et rebranchez-le.</translation>
+        <translation>Éjectez le volume, puis débranchez le boîtier et rebranchez-le.</translation>
     </message>
     <message id="ui_try_again">
         <source></source>
@@ -693,7 +697,7 @@
     </message>
     <message id="ui_plan_refused">
         <source></source>
-        <translation>Non effectué : %1</translation>
+        <translation>Opération non effectuée : %1</translation>
     </message>
 </context>
 </TS>

@@ -405,7 +405,7 @@
     </message>
     <message id="ui_closed_text">
         <source></source>
-        <translation>%1: non si dispone del permesso per usarlo. Accedere direttamente a questo computer o chiedere l’accesso all’amministratore, poi premere «%2».</translation>
+        <translation>%1: non si dispone dei permessi necessari. Accedere direttamente a questo computer o chiedere all’amministratore di concederli, poi premere «%2».</translation>
     </message>
     <message id="ui_silent_heading">
         <source></source>
@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 è collegato, ma non risponde come box RAID, oppure lo usa un altro programma. Espellere il volume, spegnere e riaccendere il box, poi premere «%2».</translation>
+        <translation>%1: nessuna risposta come box RAID, oppure è in uso da parte di un altro programma. Espellere il volume, spegnere e riaccendere il box, poi premere «%2».</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -665,7 +665,11 @@
     </message>
     <message id="ui_remedy_release">
         <source></source>
-        <translation>Arrestare ciò che lo occupa, ad esempio crittografia, LVM o RAID software.</translation>
+        <translation>Arrestare ciò che occupa il volume, ad esempio crittografia, LVM o RAID software.</translation>
+    </message>
+    <message id="ui_remedy_close">
+        <source></source>
+        <translation>Arrestare ciò che tiene aperto il file system, ad esempio un container, oppure riavviare il computer.</translation>
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
@@ -693,7 +697,7 @@
     </message>
     <message id="ui_plan_refused">
         <source></source>
-        <translation>Non eseguito: %1</translation>
+        <translation>Non eseguito: «%1»</translation>
     </message>
 </context>
 </TS>

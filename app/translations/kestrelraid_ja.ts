@@ -405,7 +405,7 @@
     </message>
     <message id="ui_closed_text">
         <source></source>
-        <translation>%1：使用する権限がありません。このコンピューターに直接ログインするか、管理者にアクセス権を依頼してから、「%2」を押してください。</translation>
+        <translation>%1：使用する権限がありません。このコンピューターに直接ログインするか、管理者にアクセス権の付与を依頼してから、「%2」を押してください。</translation>
     </message>
     <message id="ui_silent_heading">
         <source></source>
@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1は接続されていますが、RAIDケースとして応答しないか、別のプログラムが使用中です。ボリュームを取り出し、電源を入れ直してから、「%2」を押してください。</translation>
+        <translation>%1：RAID ケースとして応答しないか、別のプログラムが使用しています。ボリュームを取り出し、ケースの電源を入れ直してから、「%2」を押してください。</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -657,7 +657,7 @@
     </message>
     <message id="ui_remedy_unmount">
         <source></source>
-        <translation>ファイルシステムのマウントを解除してください。</translation>
+        <translation>ファイルシステムをアンマウントしてください。</translation>
     </message>
     <message id="ui_remedy_swapoff">
         <source></source>
@@ -666,6 +666,10 @@
     <message id="ui_remedy_release">
         <source></source>
         <translation>暗号化、LVM、ソフトウェア RAID など、ボリュームを使用しているものを停止してください。</translation>
+    </message>
+    <message id="ui_remedy_close">
+        <source></source>
+        <translation>コンテナーなど、ファイルシステムを開いているものを終了するか、コンピューターを再起動してください。</translation>
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
@@ -693,7 +697,7 @@
     </message>
     <message id="ui_plan_refused">
         <source></source>
-        <translation>実行していません：%1</translation>
+        <translation>実行していません：「%1」</translation>
     </message>
 </context>
 </TS>

@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1이(가) 연결되어 있지만 RAID 인클로저로 응답하지 않거나 다른 프로그램이 사용 중입니다. 볼륨을 꺼내고 전원을 껐다 켠 다음 ‘%2’ 버튼을 누르십시오.</translation>
+        <translation>%1: RAID 인클로저로 응답하지 않거나 다른 프로그램이 사용 중입니다. 볼륨을 꺼내고 인클로저의 전원을 껐다 켠 다음 ‘%2’ 버튼을 누르십시오.</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -661,11 +661,15 @@
     </message>
     <message id="ui_remedy_swapoff">
         <source></source>
-        <translation>스왑 영역을 끄십시오(swapoff).</translation>
+        <translation>스왑 영역을 비활성화하십시오(swapoff).</translation>
     </message>
     <message id="ui_remedy_release">
         <source></source>
-        <translation>암호화, LVM, 소프트웨어 RAID 등 볼륨을 사용하는 것을 중지하십시오.</translation>
+        <translation>암호화, LVM, 소프트웨어 RAID 등 볼륨을 사용 중인 기능을 중지하십시오.</translation>
+    </message>
+    <message id="ui_remedy_close">
+        <source></source>
+        <translation>컨테이너 등 파일 시스템을 아직 사용 중인 프로그램을 종료하거나 컴퓨터를 다시 시작하십시오.</translation>
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
@@ -693,7 +697,7 @@
     </message>
     <message id="ui_plan_refused">
         <source></source>
-        <translation>실행하지 않음: %1</translation>
+        <translation>실행하지 않음: ‘%1’</translation>
     </message>
 </context>
 </TS>

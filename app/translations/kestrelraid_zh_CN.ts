@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 已连接，但没有作为 RAID 硬盘盒响应，或正被其他程序使用。请先弹出其卷，关闭电源再打开，然后点击“%2”。</translation>
+        <translation>%1：未作为 RAID 硬盘盒响应，或正被其他程序使用。请先弹出卷，关闭硬盘盒电源再打开，然后点击“%2”。</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -665,11 +665,15 @@
     </message>
     <message id="ui_remedy_release">
         <source></source>
-        <translation>请停止占用它的加密、LVM 或软件 RAID 等。</translation>
+        <translation>请停止占用该卷的加密、LVM 或软件 RAID 等功能。</translation>
+    </message>
+    <message id="ui_remedy_close">
+        <source></source>
+        <translation>请停止仍在使用该文件系统的容器等程序，或重新启动电脑。</translation>
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>请先弹出其卷，再断开硬盘盒并重新连接。</translation>
+        <translation>请先弹出卷，再断开硬盘盒并重新连接。</translation>
     </message>
     <message id="ui_try_again">
         <source></source>

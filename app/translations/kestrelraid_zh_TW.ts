@@ -413,7 +413,7 @@
     </message>
     <message id="ui_silent_text">
         <source></source>
-        <translation>%1 已連接，但沒有以 RAID 外接盒回應，或正由其他程式使用。請先退出其磁碟區，關閉電源再開啟，然後按「%2」。</translation>
+        <translation>%1：未以 RAID 外接盒的身分回應，或正由其他程式使用。請先退出磁碟區，關閉外接盒電源再開啟，然後按「%2」。</translation>
     </message>
     <message id="ui_reason_closed">
         <source></source>
@@ -661,15 +661,19 @@
     </message>
     <message id="ui_remedy_swapoff">
         <source></source>
-        <translation>請停用置換空間（swapoff）。</translation>
+        <translation>請停用置換區（swapoff）。</translation>
     </message>
     <message id="ui_remedy_release">
         <source></source>
-        <translation>請停止佔用它的加密、LVM 或軟體 RAID 等。</translation>
+        <translation>請停止佔用該磁碟區的加密、LVM 或軟體 RAID 等功能。</translation>
+    </message>
+    <message id="ui_remedy_close">
+        <source></source>
+        <translation>請停止仍在使用該檔案系統的容器等程式，或重新啟動電腦。</translation>
     </message>
     <message id="ui_remedy_reconnect">
         <source></source>
-        <translation>請先退出其磁碟區，再拔除外接盒並重新連接。</translation>
+        <translation>請先退出磁碟區，再拔除外接盒並重新連接。</translation>
     </message>
     <message id="ui_try_again">
         <source></source>
@@ -681,7 +685,7 @@
     </message>
     <message id="ui_use_swap">
         <source></source>
-        <translation>%1 用作置換空間</translation>
+        <translation>%1 用作置換區</translation>
     </message>
     <message id="ui_use_held">
         <source></source>

@@ -79,6 +79,7 @@ TEST_P(every_text, FitsInEveryRefusal) {
     show_state("diverged");
     std::vector<volume_use> uses = {{volume_use_kind::mounted, "sdb1", "/media/anna/Photos"},
                                     {volume_use_kind::swap, "sdb2", {}},
+                                    {volume_use_kind::open, "sdb4", "btrfs"},
                                     {volume_use_kind::held, "sdb3", "luks-2f1c8a44"}};
     uses.resize(1000, uses.back());
     uses.push_back({volume_use_kind::unchecked, {}, {}});

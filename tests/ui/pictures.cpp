@@ -218,7 +218,7 @@ TEST_F(pictures, CopyFailure) {
     std::string message = translated("ui_copy_failed");
     message.replace(message.find("%1"), 2,
                     "/home/somebody/.local/state/kestrelraid/safety-copies/"
-                    "2026-11-21T08-55-01-WD-WCC4M0XJ2K7L.json: No space left on device");
+                    "2026-11-21T08-55-01-EX-0123456789AB.json: No space left on device");
     ask(QStringLiteral("panel-copy-failed"), {panel_kind::warning,
                                               translated("warning"),
                                               message,

@@ -205,8 +205,8 @@ void spoken_window::prepare_disks(krchip& chip, int mode0, int mode1) {
     put_disk(chip.disks[0], two_terabytes, mode0, two_terabytes - 16);
     put_disk(chip.disks[1], two_terabytes, mode1, two_terabytes - 16);
     chip.disks[0].model = chip.disks[1].model = "EXAMPLE DISK 2000 GB";
-    chip.disks[0].serial = "WD-WCC4M0XJ2K7L";
-    chip.disks[1].serial = "WD-WCC4M5PR81TC";
+    chip.disks[0].serial = "EX-0123456789AB";
+    chip.disks[1].serial = "EX-0123456789AC";
     chip.identity.serial = "ABC123";
     chip.raid_mode = mode0;
     chip.raid_capacity = two_terabytes - 16;

@@ -14,6 +14,7 @@ using testing::IsEmpty;
 const volume_use mounted{volume_use_kind::mounted, "sdb1", "/media/a"};
 const volume_use swap_area{volume_use_kind::swap, "sdb2", {}};
 const volume_use held{volume_use_kind::held, "sdb3", "md0"};
+const volume_use open_there{volume_use_kind::open, "sdb4", "ext4"};
 const volume_use unchecked{volume_use_kind::unchecked, {}, {}};
 
 class use_text : public testing::Test {
@@ -35,13 +36,14 @@ protected:
 };
 
 TEST_F(use_text, TellsWhatIsUsedWhereLineByLine) {
-    EXPECT_THAT(lines_of({mounted, swap_area, held}),
-                ElementsAre("sdb1 at /media/a", "sdb2 swap", "sdb3 by md0"));
+    EXPECT_THAT(lines_of({mounted, swap_area, held, open_there}),
+                ElementsAre("sdb1 at /media/a", "sdb2 swap", "sdb3 by md0", "sdb4 by ext4"));
 }
 
 TEST_F(use_text, NamesARemedyForEachKindOnce) {
     EXPECT_EQ(message_of({mounted, mounted}), "ui_volume_in_use ui_remedy_unmount ui_try_again");
     EXPECT_EQ(message_of({swap_area}), "ui_volume_in_use ui_remedy_swapoff ui_try_again");
+    EXPECT_EQ(message_of({open_there}), "ui_volume_in_use ui_remedy_close ui_try_again");
     EXPECT_EQ(message_of({mounted, swap_area, held}),
               "ui_volume_in_use ui_remedy_unmount ui_remedy_swapoff ui_remedy_release "
               "ui_try_again");

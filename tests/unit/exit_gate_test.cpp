@@ -58,6 +58,10 @@ TEST(ExitGate, WaitsForASectorInFlight) {
             gate.end_write();
             std::this_thread::yield();
         }
+        // An impatient gate gets the time to cut it off.
+        for (int turn = 0; turn < 10'000; ++turn) {
+            std::this_thread::yield();
+        }
         read_back = true;
     });
     writing.get_future().wait();

@@ -6,7 +6,7 @@
 #include "tests/unit/block_tree.h"
 
 void PrintTo(const volume_use& use, std::ostream* out) {
-    static constexpr const char* kinds[] = {"mounted", "swap", "held", "unchecked"};
+    static constexpr const char* kinds[] = {"mounted", "swap", "held", "open", "unchecked"};
     *out << kinds[static_cast<int>(use.kind)] << " " << use.device << " " << use.where;
 }
 
@@ -25,6 +25,10 @@ volume_use swap_on(const std::string& device) {
 
 volume_use held(const std::string& device, const std::string& by) {
     return {volume_use_kind::held, device, by};
+}
+
+volume_use open_there(const std::string& device, const std::string& kind) {
+    return {volume_use_kind::open, device, kind};
 }
 
 const volume_use unchecked{volume_use_kind::unchecked, {}, {}};
@@ -234,12 +238,12 @@ TEST_F(VolumeUses, OfAFileSystemThatNoTableOfOursTellsOf) {
     tree_.write("sys/fs/ext4/features/verity", "");
     tree_.write("sys/fs/ext4/sdb2/errors_count", "0\n");
     tree_.write("sys/fs/xfs/sda1/stats/stats", "");
-    EXPECT_THAT(uses(), ElementsAre(held("sdb2", "ext4")));
+    EXPECT_THAT(uses(), ElementsAre(open_there("sdb2", "ext4")));
 }
 
 TEST_F(VolumeUses, OfABtrfsThatNoTableOfOursTellsOf) {
     tree_.write("sys/fs/btrfs/1111-aaaa/devices/sdb1/dev", "");
-    EXPECT_THAT(uses(), ElementsAre(held("sdb1", "btrfs")));
+    EXPECT_THAT(uses(), ElementsAre(open_there("sdb1", "btrfs")));
 }
 
 TEST_F(VolumeUses, OfAMountedFileSystemAreToldOnce) {

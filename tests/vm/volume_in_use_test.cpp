@@ -76,7 +76,7 @@ TEST_F(VolumeInUse, IsAFileSystemThatWasTakenOutOfTheTreeAndIsStillOpen) {
         const mounted now(volume_);
         const std::ofstream open_file(mounted::place() + "/open");
         run("umount -l " + mounted::place());
-        EXPECT_THAT(uses(), ElementsAre(volume_use{volume_use_kind::held, volume_, "ext4"}));
+        EXPECT_THAT(uses(), ElementsAre(volume_use{volume_use_kind::open, volume_, "ext4"}));
     }
     EXPECT_THAT(uses(), IsEmpty());
 }
