@@ -372,6 +372,15 @@ TEST_F(Selection, OfALoneMirrorMemberDegradesItAndStartsTheTimer) {
     EXPECT_TRUE(chip.raid1_timer_on);
 }
 
+TEST_F(Selection, OfALoneMirrorMemberOnPortOneDoesSoToo) {
+    krchip& chip = take_chip(std::nullopt, member_b(2));
+    select(chip);
+    EXPECT_EQ(log.take(), (lines{"krSetRaidInfo(0x11, KR 2 1 00, 512, 1999, 1, 1) = 0",
+                                 "krGetRaidInfo(0x11, 512, 1999, 1, 1) = 0",
+                                 "krFlushHDDCache(0x11, 1) = 0", "thread started"}));
+    EXPECT_TRUE(chip.raid1_timer_on);
+}
+
 TEST_F(Selection, DegradesAgainEachTimeWithANewStamp) {
     krchip& chip = take_chip(member_a(2), std::nullopt);
     select(chip);

@@ -34,6 +34,13 @@ TEST_F(Timer, ThatIsAliveOrAboutToRunIsNotStartedAgain) {
     EXPECT_FALSE(other.raid1_timer_on);
 }
 
+TEST_F(Timer, OfAnEnclosureThatIsNotOfTheListIsNotStarted) {
+    krchip copy = take_chip(member_a(2), member_b(2));
+    start_timer_of(copy);
+    EXPECT_EQ(threads.waiting(), 0U);
+    EXPECT_FALSE(j.chips[0].raid1_timer_on);
+}
+
 TEST_F(Timer, ThatCannotBeCreatedEndsTheProcess) {
     krchip& chip = take_chip(member_a(2), member_b(2));
     threads.refuse();
