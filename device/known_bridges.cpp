@@ -27,6 +27,13 @@ known_bridges::number_type known_bridges::add(const bridge_identity& bridge) {
     return last_;
 }
 
+void known_bridges::leave(number_type number) {
+    const mutex_scope guard(mutex_);
+    if (const auto found = bridges_.find(number); found != bridges_.end()) {
+        found->second.node.clear();
+    }
+}
+
 void known_bridges::forget(number_type number) {
     const mutex_scope guard(mutex_);
     bridges_.erase(number);

@@ -33,13 +33,16 @@ public:
 
     // Takes in a bridge and gives its number.
     number_type add(const bridge_identity& bridge);
+
+    // The bridge is not reached any more; what it was called by stays known until forget().
+    void leave(number_type number);
     void forget(number_type number);
 
     // The latest bridge with the handle; 0 when there is none.
     registry_entry entry_of(std::uint32_t device) const;
     bool knows(std::uint32_t device) const { return entry_of(device) != 0; }
 
-    // Those that were announced and are reached through a node. Name and node only.
+    // Those that were announced, are reached through a node and have not left. Name and node only.
     std::vector<reached_bridge> with_nodes() const;
 
     // The number's handle; 0 when it is unknown.

@@ -8,7 +8,7 @@
 #include <vector>
 
 // Names an entry of the registry; 0 is "no entry", and every question about it has the empty
-// answer. An entry stays valid until its bridge has left.
+// answer. An entry stays valid until the departure of its bridge has been handled.
 using registry_entry = std::uint64_t;
 
 // A bridge that is there, told or not told by the access library.
@@ -42,6 +42,7 @@ public:
     // "USB Serial Number".
     virtual std::u16string text(registry_entry entry, std::string_view property) = 0;
 
-    // The bridges that are reached through nodes of the system, in the order of their arrival.
+    // The bridges that are reached through nodes of the system, in the order of their arrival. One
+    // that has left is not among them, also while its departure is still being handled.
     virtual std::vector<reached_bridge> reached() = 0;
 };

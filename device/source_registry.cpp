@@ -132,7 +132,9 @@ void source_registry::implementation::arrival(const bridge_identity& bridge) {
 }
 
 void source_registry::implementation::departure(std::uint32_t handle) {
-    events_.push_back({false, present_[handle]});
+    const bridge_number number = present_[handle];
+    known.leave(number);
+    events_.push_back({false, number});
     present_.erase(handle);
 }
 

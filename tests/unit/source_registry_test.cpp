@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -20,6 +21,8 @@ using testing::ElementsAre;
 bridge_identity bridge(std::uint32_t handle) {
     bridge_identity identity;
     identity.handle = handle;
+    identity.name = "bridge " + std::to_string(handle);
+    identity.node = "/dev/null";
     return identity;
 }
 
@@ -35,6 +38,10 @@ public:
         coming_.push_back(handle);
         ::eventfd_write(ready_, 1);
     }
+    void will_take(std::uint32_t handle) {
+        going_.push_back(handle);
+        ::eventfd_write(ready_, 1);
+    }
     void will_end() {
         ends_ = true;
         ::eventfd_write(ready_, 1);
@@ -47,6 +54,9 @@ public:
     bool process() override {
         for (const std::uint32_t handle : std::exchange(coming_, {})) {
             told_.arrived(bridge(handle));
+        }
+        for (const std::uint32_t handle : std::exchange(going_, {})) {
+            told_.departed(handle);
         }
         eventfd_t count = 0;
         ::eventfd_read(ready_, &count);
@@ -61,6 +71,7 @@ private:
     bool ends_ = false;
     const int ready_ = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     std::vector<std::uint32_t> coming_;
+    std::vector<std::uint32_t> going_;
     listener told_;
 };
 
@@ -117,6 +128,30 @@ TEST_F(SourceRegistry, GoesOnWhenOneSourceHasGone) {
     EXPECT_EQ(tested->entry_of(5), 0U);
     first_->will_bring(1);
     EXPECT_THAT(next_arrival(*tested), ElementsAre(1));
+}
+
+// The window looks at that time, and would call a bridge without its node one without rights.
+TEST_F(SourceRegistry, ABridgeThatLeftIsReachedNoMoreWhileItsDepartureIsHandled) {
+    const auto tested = registry();
+    ASSERT_TRUE(tested->match(bridge_class));
+    first_->will_bring(1);
+    second_->will_bring(2);
+    std::vector<reached_bridge> reached;
+    registry_entry entry = 0;
+    const auto on_departure = [&](std::uint32_t gone, std::uint32_t) {
+        reached = tested->reached();
+        entry = tested->entry_of(gone);
+        tested->stop();
+    };
+    tested->next(tested->add_matching_notification([&](std::uint32_t some) {
+        while (const std::uint32_t service = tested->next(some)) {
+            tested->add_interest_notification(service, on_departure);
+        }
+        first_->will_take(1);
+    }));
+    tested->run();
+    EXPECT_THAT(reached, ElementsAre(reached_bridge{"bridge 2", "/dev/null", true}));
+    EXPECT_NE(entry, 0U); // what it was called by is still known
 }
 
 TEST_F(SourceRegistry, EndsWithItsLastSource) {
