@@ -91,20 +91,33 @@ bool becomes_ready(const exchange& made) {
            decode_sense(made.reply.sense) == becoming_ready;
 }
 
+// How often a command may still be made again, for each of the reasons in turn.
+struct chances {
+    int news = 8;           // a device has a few at once
+    std::int64_t waits = 0; // of a quarter of a second
+};
+
+// Whether a command that was not carried out is to be made again. Waits first where that helps.
+bool is_made_again(const exchange& made, chances& left, sg_nodes& nodes) {
+    if (has_news(made)) {
+        return left.news-- > 0;
+    }
+    if (becomes_ready(made) && left.waits-- > 0) {
+        nodes.pause();
+        return true;
+    }
+    return false;
+}
+
 } // namespace
 
 exchange sg_exchange(sg_nodes& nodes, const file_handle& node, byte_view cdb, byte_view data_out,
                      std::uint32_t allocation, std::chrono::seconds limit) {
-    constexpr int most_news = 8;               // a device has a few at once
-    const auto most_waits = limit.count() * 4; // of a quarter of a second
-    const auto once = [&] { return made_once(nodes, node, cdb, data_out, allocation, limit); };
-    exchange made = once();
-    for (int news = 0; news < most_news && has_news(made); ++news) {
-        made = once();
-    }
-    for (std::int64_t wait = 0; wait < most_waits && becomes_ready(made); ++wait) {
-        nodes.pause();
-        made = once();
+    chances left;
+    left.waits = limit.count() * 4;
+    exchange made = made_once(nodes, node, cdb, data_out, allocation, limit);
+    while (is_made_again(made, left, nodes)) {
+        made = made_once(nodes, node, cdb, data_out, allocation, limit);
     }
     return made;
 }

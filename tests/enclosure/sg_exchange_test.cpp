@@ -165,6 +165,22 @@ TEST_F(SgExchange, ADeviceThatNeverBecomesReadyIsWaitedForHalfAMinute) {
     EXPECT_EQ(nodes_.pauses, 120); // of a quarter of a second
 }
 
+// Spinning up begins with a reset that is news, and ends with news of what has changed.
+TEST_F(SgExchange, NewsBeforeAndAfterBecomingReadyIsHeardAndTheCommandMadeAgain) {
+    const std::vector<enclosure::sense_code> told{
+        {0x06, 0x29, 0x00}, {0x02, 0x04, 0x01}, {0x06, 0x2A, 0x01}, {0x02, 0x04, 0x01},
+        {0x02, 0x04, 0x01}, {0x06, 0x28, 0x00}, {0x06, 0x29, 0x00}};
+    std::size_t next = 0;
+    nodes_.on_command = [&](sg_io_hdr& request) {
+        return next < told.size()
+                   ? scripted_sg::refusing(enclosure::sense_bytes(told[next++]))(request)
+                   : 0;
+    };
+    EXPECT_EQ(made().reply.status, scsi_status::good);
+    EXPECT_EQ(nodes_.commands.size(), told.size() + 1);
+    EXPECT_EQ(nodes_.pauses, 3);
+}
+
 TEST_F(SgExchange, SenseThatIsAnnouncedByTheDriverIsAnAnswer) {
     EXPECT_EQ(without_answer(0, 0, 0x08), delivery::answered);
 }
