@@ -39,6 +39,7 @@ std::int32_t status_of(delivery opening) {
     case delivery::answered:
         return KRRAID_DONE;
     case delivery::no_answer:
+    case delivery::disturbed:
         return KRRAID_NO_ANSWER;
     case delivery::not_permitted:
         return KRRAID_NOT_PERMITTED;

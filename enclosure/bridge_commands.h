@@ -15,7 +15,7 @@ public:
         done,          // answered with status good and the expected number of bytes
         failed,        // refused, or answered with less
         no_disk,       // refused, since there is no disk in the bay
-        no_answer,     // in time
+        no_answer,     // in time or unharmed
         not_permitted, // to this user
         gone,          // the bridge has left
     };

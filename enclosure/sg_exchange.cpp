@@ -11,8 +11,18 @@ namespace enclosure {
 namespace {
 
 // How the kernel says that a command did not get through (its include/scsi/scsi_status.h).
-enum host_status : unsigned short { host_ok = 0x00, host_no_connection = 0x01 };
+enum host_status : unsigned short {
+    host_ok = 0x00,
+    host_no_connection = 0x01,
+    host_timed_out = 0x03,
+    host_aborted = 0x05, // as some drivers have it when the time was over
+};
 constexpr unsigned driver_timed_out = 0x06; // the low four bits of the driver's status
+
+bool is_time_over(const sg_io_hdr& request) {
+    return request.host_status == host_timed_out || request.host_status == host_aborted ||
+           (request.driver_status & 0x0FU) == driver_timed_out;
+}
 
 // What kept the command from an answer; nothing when there is one.
 std::optional<delivery> trouble_of(int error, const sg_io_hdr& request) {
@@ -22,9 +32,11 @@ std::optional<delivery> trouble_of(int error, const sg_io_hdr& request) {
     if (error == ENODEV || error == ENXIO || request.host_status == host_no_connection) {
         return delivery::gone;
     }
-    const bool answered = error == 0 && request.host_status == host_ok &&
-                          (request.driver_status & 0x0FU) != driver_timed_out;
-    return answered ? std::nullopt : std::optional(delivery::no_answer);
+    if (is_time_over(request)) {
+        return delivery::no_answer;
+    }
+    const bool answered = error == 0 && request.host_status == host_ok;
+    return answered ? std::nullopt : std::optional(delivery::disturbed);
 }
 
 sg_io_hdr request_for(std::array<std::uint8_t, longest_cdb>& cdb, std::size_t cdb_size,
@@ -93,31 +105,36 @@ bool becomes_ready(const exchange& made) {
 
 // How often a command may still be made again, for each of the reasons in turn.
 struct chances {
-    int news = 8;           // a device has a few at once
-    std::int64_t waits = 0; // of a quarter of a second
+    int news = 8;                                     // a device has a few at once
+    std::int64_t waits = sg_answer_limit.count() * 4; // of a quarter of a second
+    int losses = 0;                                   // by the bus
 };
 
-// Whether a command that was not carried out is to be made again. Waits first where that helps.
+// Whether the command is to be made again. Waits first where that helps.
 bool is_made_again(const exchange& made, chances& left, sg_nodes& nodes) {
     if (has_news(made)) {
         return left.news-- > 0;
     }
-    if (becomes_ready(made) && left.waits-- > 0) {
+    const bool helped_by_time = (becomes_ready(made) && left.waits-- > 0) ||
+                                (made.state == delivery::disturbed && left.losses-- > 0);
+    if (helped_by_time) {
         nodes.pause();
-        return true;
     }
-    return false;
+    return helped_by_time;
 }
 
 } // namespace
 
 exchange sg_exchange(sg_nodes& nodes, const file_handle& node, byte_view cdb, byte_view data_out,
                      std::uint32_t allocation, std::chrono::seconds limit) {
+    const bool only_reads = data_out.empty() && allocation > 0;
     chances left;
-    left.waits = limit.count() * 4;
+    left.losses = only_reads ? 1 : 0;
     exchange made = made_once(nodes, node, cdb, data_out, allocation, limit);
     while (is_made_again(made, left, nodes)) {
-        made = made_once(nodes, node, cdb, data_out, allocation, limit);
+        const bool answered = made.state == delivery::answered;
+        made =
+            made_once(nodes, node, cdb, data_out, allocation, answered ? sg_answer_limit : limit);
     }
     return made;
 }

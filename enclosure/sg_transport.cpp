@@ -98,7 +98,7 @@ exchange sg_transport::execute(std::uint32_t handle, byte_view cdb, byte_view da
                                 silent ? sg_short_limit : sg_answer_limit);
     if (made.state == delivery::no_answer) {
         silent_.insert(handle);
-    } else {
+    } else if (made.state == delivery::answered) {
         silent_.erase(handle);
     }
     return made;

@@ -29,7 +29,7 @@ private:
     sg_nodes& nodes_;
     // All by handle.
     std::map<std::uint32_t, file_handle> opened_;
-    std::set<std::uint32_t> silent_;      // whose last command had no answer
+    std::set<std::uint32_t> silent_;      // in time, and have not answered since
     std::map<std::uint32_t, bool> tried_; // whether it is a bridge, while the node is there
 };
 

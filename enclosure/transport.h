@@ -15,6 +15,7 @@ inline constexpr std::chrono::seconds answer_limit{5};
 enum class delivery {
     answered,
     no_answer,     // in time; the bridge may still be there
+    disturbed,     // the bus lost the command or its answer; the bridge may still be there
     not_permitted, // to this user
     gone,          // the bridge has left
 };

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -18,10 +20,26 @@ namespace sense = enclosure::sense;
 
 constexpr std::array<std::uint8_t, 16> some_command{0xC4, 0x03};
 
+// Statuses of the kernel's host adapter.
+constexpr unsigned short time_over = 0x03;
+constexpr unsigned short transport_error = 0x07;
+constexpr unsigned short bus_reset = 0x08;
+
 class SgExchange : public testing::Test {
 protected:
     exchange made(byte_view data_out = {}, std::uint32_t allocation = 512) {
         return enclosure::sg_exchange(nodes_, node_, some_command, data_out, allocation);
+    }
+
+    // How often a command is made whose way is disturbed again and again, or whose time is over.
+    std::size_t attempts(unsigned short host_status, byte_view data_out, std::uint32_t allocation) {
+        nodes_.commands.clear();
+        nodes_.on_command = [host_status](sg_io_hdr& request) {
+            request.host_status = host_status;
+            return 0;
+        };
+        made(data_out, allocation);
+        return nodes_.commands.size();
     }
 
     delivery without_answer(int error, unsigned short host, unsigned short driver = 0) {
@@ -117,13 +135,38 @@ TEST_F(SgExchange, ADeviceThatLeftIsGone) {
 }
 
 TEST_F(SgExchange, OneThatIsSilentIsNotGone) {
-    EXPECT_EQ(without_answer(0, 0x03), delivery::no_answer); // time over
-    EXPECT_EQ(without_answer(0, 0x07), delivery::no_answer); // error of the transport
-    EXPECT_EQ(without_answer(0, 0x08), delivery::no_answer); // reset
+    EXPECT_EQ(without_answer(0, time_over), delivery::no_answer);
+    EXPECT_EQ(without_answer(0, 0x05), delivery::no_answer); // aborted when its time was over
     EXPECT_EQ(without_answer(0, 0, 0x06), delivery::no_answer);
     EXPECT_EQ(without_answer(0, 0, 0x16), delivery::no_answer); // with a suggestion
-    EXPECT_EQ(without_answer(EIO, 0), delivery::no_answer);
-    EXPECT_EQ(without_answer(ENOMEM, 0), delivery::no_answer);
+}
+
+TEST_F(SgExchange, ADisturbedBusIsNoSilenceOfTheDevice) {
+    EXPECT_EQ(without_answer(0, transport_error), delivery::disturbed);
+    EXPECT_EQ(without_answer(0, bus_reset), delivery::disturbed);
+    EXPECT_EQ(without_answer(EIO, 0), delivery::disturbed);
+    EXPECT_EQ(without_answer(ENOMEM, 0), delivery::disturbed);
+}
+
+TEST_F(SgExchange, AReadingThatTheBusLostIsMadeOnceMoreWhenTheBusHasSettled) {
+    bool reset = true;
+    nodes_.on_command = [&reset](sg_io_hdr& request) {
+        request.host_status = std::exchange(reset, false) ? bus_reset : 0;
+        return 0;
+    };
+    EXPECT_EQ(made().state, delivery::answered);
+    EXPECT_EQ(nodes_.commands.size(), 2U);
+    EXPECT_EQ(nodes_.pauses, 1);
+}
+
+TEST_F(SgExchange, NothingElseThatMayHaveBeenCarriedOutIsMadeAgain) {
+    const std::vector<std::uint8_t> sector(512);
+    for (const unsigned short status : {transport_error, bus_reset}) {
+        EXPECT_EQ(attempts(status, {}, 512), 2U);
+        EXPECT_EQ(attempts(status, sector, 0), 1U); // a writing
+        EXPECT_EQ(attempts(status, {}, 0), 1U);     // a flush, a restart
+    }
+    EXPECT_EQ(attempts(time_over, {}, 512), 1U);
 }
 
 TEST_F(SgExchange, OneThatIsNotOursToUseIsToldApart) {
@@ -179,6 +222,19 @@ TEST_F(SgExchange, NewsBeforeAndAfterBecomingReadyIsHeardAndTheCommandMadeAgain)
     EXPECT_EQ(made().reply.status, scsi_status::good);
     EXPECT_EQ(nodes_.commands.size(), told.size() + 1);
     EXPECT_EQ(nodes_.pauses, 3);
+}
+
+TEST_F(SgExchange, ADeviceThatWasSilentHasItsFullTimeOnceItSaysThatItIsBecomingReady) {
+    std::vector<unsigned> limits; // seconds
+    const auto becoming_ready = scripted_sg::refusing(enclosure::sense_bytes({0x02, 0x04, 0x01}));
+    nodes_.on_command = [&](sg_io_hdr& request) {
+        limits.push_back(request.timeout / 1000);
+        return becoming_ready(request);
+    };
+    enclosure::sg_exchange(nodes_, node_, some_command, {}, 512, enclosure::sg_short_limit);
+    std::vector<unsigned> expected(121, 30U);
+    expected.front() = 3;
+    EXPECT_EQ(limits, expected);
 }
 
 TEST_F(SgExchange, SenseThatIsAnnouncedByTheDriverIsAnAnswer) {

@@ -23,11 +23,28 @@ using handles = std::vector<std::uint32_t>;
 constexpr sg_node first{3, 100};
 constexpr sg_node second{1, 200};
 
+// Statuses of the kernel's host adapter.
+constexpr unsigned short time_over = 0x03;
+constexpr unsigned short bus_reset = 0x08;
+
 class SgTransport : public testing::Test {
 protected:
     SgTransport() { nodes_.there = {first, second}; }
 
     handles listed() { return way_.bridges().handles; }
+
+    // How many seconds the bridge is given for a command that ends with that host status.
+    unsigned limit_of_a_command(std::uint32_t device, unsigned short host_status) {
+        unsigned limit = 0;
+        nodes_.on_command = [&](sg_io_hdr& request) {
+            limit = request.timeout / 1000;
+            request.host_status = host_status;
+            return 0;
+        };
+        const std::array<std::uint8_t, 16> command{};
+        way_.execute(device, command, {}, 0);
+        return limit;
+    }
 
     scripted_sg nodes_;
     enclosure::sg_transport way_{nodes_};
@@ -125,20 +142,19 @@ TEST_F(SgTransport, TheLibrarySaysWhyACommandHadNoAnswer) {
 TEST_F(SgTransport, ASilentBridgeIsWaitedForShortlyUntilItAnswersAgain) {
     const std::uint32_t device = sg_handle_of(first);
     ASSERT_EQ(way_.open(device), delivery::answered);
-    int outcome = EIO;
-    std::vector<unsigned> limits; // seconds
-    nodes_.on_command = [&](sg_io_hdr& request) {
-        limits.push_back(request.timeout / 1000);
-        return outcome;
-    };
-    const std::array<std::uint8_t, 16> command{};
-    const auto ask = [&] { way_.execute(device, command, {}, 0); };
-    ask();
-    ask();
-    outcome = 0;
-    ask();
-    ask();
-    EXPECT_EQ(limits, (std::vector<unsigned>{30, 3, 3, 30}));
+    EXPECT_EQ(limit_of_a_command(device, time_over), 30U);
+    EXPECT_EQ(limit_of_a_command(device, time_over), 3U);
+    EXPECT_EQ(limit_of_a_command(device, 0), 3U);
+    EXPECT_EQ(limit_of_a_command(device, 0), 30U);
+}
+
+TEST_F(SgTransport, ABridgeWhoseBusIsDisturbedIsWaitedForAsBefore) {
+    const std::uint32_t device = sg_handle_of(first);
+    ASSERT_EQ(way_.open(device), delivery::answered);
+    limit_of_a_command(device, bus_reset);
+    EXPECT_EQ(limit_of_a_command(device, time_over), 30U);
+    limit_of_a_command(device, bus_reset);
+    EXPECT_EQ(limit_of_a_command(device, 0), 3U); // it has not answered yet
 }
 
 TEST_F(SgTransport, ConnectionsOfNodesThatWentAreClosedByTheNextListing) {
