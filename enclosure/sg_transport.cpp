@@ -27,17 +27,15 @@ delivery delivery_of(int error) {
 
 bridge_listing sg_transport::bridges() {
     std::vector<std::uint32_t> handles;
-    std::map<std::uint32_t, bool> tried;
+    std::set<std::uint32_t> there;
     for (const sg_node& node : nodes_.chosen()) {
-        const std::uint32_t handle = sg_handle_of(node);
+        there.insert(sg_handle_of(node));
         if (can_be_used(node)) {
-            handles.push_back(handle);
-        }
-        if (const auto known = tried_.find(handle); known != tried_.end()) {
-            tried.insert(*known);
+            handles.push_back(sg_handle_of(node));
         }
     }
-    tried_ = std::move(tried);
+    std::erase_if(tried_, [&there](const auto& one) { return !there.contains(one.first); });
+    std::erase_if(silent_, [&there](std::uint32_t one) { return !there.contains(one); });
     return {std::move(handles), true};
 }
 
@@ -54,14 +52,14 @@ bool sg_transport::can_be_used(const sg_node& node) {
     const auto known = tried_.find(handle);
     return known != tried_.end()
                ? known->second
-               : tried_.emplace(handle, knows_our_commands(opened.file)).first->second;
+               : tried_.emplace(handle, knows_our_commands(handle, opened.file)).first->second;
 }
 
 // A chip that does not answer now may do so later.
-bool sg_transport::knows_our_commands(const file_handle& node) {
+bool sg_transport::knows_our_commands(std::uint32_t handle, const file_handle& node) {
     constexpr std::uint32_t width = 4;
-    const exchange made = sg_exchange(
-        nodes_, node, encode({vendor_action::read_register, 0, false, presence_register_0, width}),
+    const exchange made = made_through(
+        node, handle, encode({vendor_action::read_register, 0, false, presence_register_0, width}),
         {}, width);
     return made.state != delivery::answered ||
            decode_sense(made.reply.sense) != sense::invalid_opcode;
@@ -84,7 +82,6 @@ delivery sg_transport::open(std::uint32_t handle) {
 
 void sg_transport::close(std::uint32_t handle) {
     opened_.erase(handle);
-    silent_.erase(handle);
 }
 
 exchange sg_transport::execute(std::uint32_t handle, byte_view cdb, byte_view data_out,
@@ -93,8 +90,13 @@ exchange sg_transport::execute(std::uint32_t handle, byte_view cdb, byte_view da
     if (opened == opened_.end()) {
         return {delivery::gone, {}};
     }
+    return made_through(opened->second, handle, cdb, data_out, allocation);
+}
+
+exchange sg_transport::made_through(const file_handle& node, std::uint32_t handle, byte_view cdb,
+                                    byte_view data_out, std::uint32_t allocation) {
     const bool silent = silent_.contains(handle);
-    exchange made = sg_exchange(nodes_, opened->second, cdb, data_out, allocation,
+    exchange made = sg_exchange(nodes_, node, cdb, data_out, allocation,
                                 silent ? sg_short_limit : sg_answer_limit);
     if (made.state == delivery::no_answer) {
         silent_.insert(handle);

@@ -24,13 +24,17 @@ public:
 
 private:
     bool can_be_used(const sg_node& node);
-    bool knows_our_commands(const file_handle& node);
+    bool knows_our_commands(std::uint32_t handle, const file_handle& node);
+
+    // Notes whether the device was silent.
+    exchange made_through(const file_handle& node, std::uint32_t handle, byte_view cdb,
+                          byte_view data_out, std::uint32_t allocation);
 
     sg_nodes& nodes_;
-    // All by handle.
+    // All by handle; the last two while the node is there.
     std::map<std::uint32_t, file_handle> opened_;
-    std::set<std::uint32_t> silent_;      // in time, and have not answered since
-    std::map<std::uint32_t, bool> tried_; // whether it is a bridge, while the node is there
+    std::map<std::uint32_t, bool> tried_; // whether it is a bridge
+    std::set<std::uint32_t> silent_;      // gave no answer in time, and none since
 };
 
 } // namespace enclosure

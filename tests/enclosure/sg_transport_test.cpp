@@ -157,6 +157,38 @@ TEST_F(SgTransport, ABridgeWhoseBusIsDisturbedIsWaitedForAsBefore) {
     EXPECT_EQ(limit_of_a_command(device, 0), 3U); // it has not answered yet
 }
 
+TEST_F(SgTransport, ASilentBridgeIsWaitedForShortlyAlsoInTheScansThatFollow) {
+    enclosure::bridge_access library(way_);
+    const std::uint32_t device = sg_handle_of(first);
+    ASSERT_EQ(library.openConnection(device), KRRAID_DONE);
+    EXPECT_EQ(limit_of_a_command(device, time_over), 30U);
+    ASSERT_EQ(library.closeConnection(device), KRRAID_DONE);
+    listed();
+    ASSERT_EQ(library.openConnection(device), KRRAID_DONE);
+    EXPECT_EQ(limit_of_a_command(device, time_over), 3U);
+}
+
+TEST_F(SgTransport, ABridgeThatIsSilentWhenItIsListedIsWaitedForShortlyAfterwards) {
+    nodes_.there = {first};
+    nodes_.on_command = [](sg_io_hdr& request) {
+        request.host_status = time_over;
+        return 0;
+    };
+    EXPECT_EQ(listed(), handles{sg_handle_of(first)});
+    ASSERT_EQ(way_.open(sg_handle_of(first)), delivery::answered);
+    EXPECT_EQ(limit_of_a_command(sg_handle_of(first), 0), 3U);
+}
+
+TEST_F(SgTransport, ABridgeThatComesAgainIsWaitedForAsAnyOther) {
+    const std::uint32_t device = sg_handle_of(first);
+    ASSERT_EQ(way_.open(device), delivery::answered);
+    limit_of_a_command(device, time_over);
+    nodes_.there = {second};
+    listed();
+    nodes_.there = {first, second};
+    EXPECT_EQ(limit_of_a_command(device, 0), 30U);
+}
+
 TEST_F(SgTransport, ConnectionsOfNodesThatWentAreClosedByTheNextListing) {
     enclosure::bridge_access library(way_);
     ASSERT_EQ(library.openConnection(sg_handle_of(first)), KRRAID_DONE);
