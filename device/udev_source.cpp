@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr int most_failures = 1000; // to read an event, one after the other
+constexpr int most_failures = 1000;      // to read an event, one after the other
+constexpr int time_to_look_again = 1000; // milliseconds
 
 } // namespace
 
@@ -38,6 +39,9 @@ bool udev_source::process() {
             return make_good();
         }
         take(*event);
+    }
+    if (owes_look_) {
+        look_at_everything();
     }
     return true;
 }
@@ -75,7 +79,7 @@ pollfd udev_source::watched() const {
 }
 
 int udev_source::poll_timeout() const {
-    return -1;
+    return owes_look_ ? time_to_look_again : -1;
 }
 
 void udev_source::take(const node_event& event) {
@@ -87,11 +91,15 @@ void udev_source::take(const node_event& event) {
 }
 
 void udev_source::look_at_everything() {
-    const std::vector<bridge_node> there = nodes_there();
+    const std::optional<std::vector<bridge_node>> there = nodes_there();
+    owes_look_ = !there;
+    if (!there) {
+        return;
+    }
     std::vector<std::string> gone;
     for (const auto& [path, node] : present_) {
         const bool still_there =
-            std::any_of(there.begin(), there.end(), [&node = node](const bridge_node& one) {
+            std::any_of(there->begin(), there->end(), [&node = node](const bridge_node& one) {
                 return one.identity.handle == node.identity.handle;
             });
         if (!still_there) {
@@ -101,26 +109,28 @@ void udev_source::look_at_everything() {
     for (const std::string& path : gone) {
         depart(path);
     }
-    for (const bridge_node& node : there) {
+    for (const bridge_node& node : *there) {
         arrive(node);
     }
 }
 
-std::vector<bridge_node> udev_source::nodes_there() const {
-    std::vector<bridge_node> there;
+// Nothing when not everything can be seen.
+std::optional<std::vector<bridge_node>> udev_source::nodes_there() const {
     const udev_pointer<udev_enumerate> nodes{udev_enumerate_new(context_.get())};
     if (!nodes || udev_enumerate_add_match_subsystem(nodes.get(), node_subsystem) < 0 ||
         udev_enumerate_scan_devices(nodes.get()) < 0) {
-        return there;
+        return std::nullopt;
     }
+    std::vector<bridge_node> there;
     for (udev_list_entry* entry = udev_enumerate_get_list_entry(nodes.get()); entry != nullptr;
          entry = udev_list_entry_get_next(entry)) {
-        const udev_pointer<udev_device> node{
-            udev_device_new_from_syspath(context_.get(), udev_list_entry_get_name(entry))};
-        if (!node) {
-            continue; // it has gone meanwhile
+        const char* const path = udev_list_entry_get_name(entry);
+        const udev_pointer<udev_device> node{udev_device_new_from_syspath(context_.get(), path)};
+        if (!node && sysfs_arrival_number(path) != 0) {
+            return std::nullopt;
         }
-        if (const auto bridge = bridge_node_of(node.get(), arrival_)) {
+        const auto bridge = node ? bridge_node_of(node.get(), arrival_) : std::nullopt;
+        if (bridge) {
             there.push_back(*bridge);
         }
     }

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,8 @@ public:
 
     bool listen(listener told) override;
 
-    // After events were lost, the rest is dropped and every node looked at once. False: nothing can
-    // be read any more.
+    // After events were lost, the rest is dropped and every node looked at once; should that look
+    // fail, nothing changes and it is made again, each second. False: nothing can be read any more.
     bool process() override;
 
     // Takes in what udev has told; it tells of a node a little after the kernel has made it.
@@ -38,7 +39,7 @@ private:
     bool make_good();
     void look_at_everything();
     void end();
-    std::vector<bridge_node> nodes_there() const;
+    std::optional<std::vector<bridge_node>> nodes_there() const;
     void arrive(const bridge_node& node);
     void depart(const std::string& path);
     bool is_told(const std::string& bus_device) const;
@@ -48,5 +49,6 @@ private:
     listener told_;
     udev_pointer<udev> context_;
     std::map<std::string, bridge_node> present_; // by path
+    bool owes_look_ = false;                     // at everything, as the last one failed
     bool ended_ = false;
 };

@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <utility>
 
 namespace enclosure {
 
@@ -53,35 +54,41 @@ private:
     sigset_t former_{};
 };
 
-sg_node node_at(udev* context, const char* path) {
+udev_pointer<udev_enumerate> search_in(udev* context) {
+    udev_pointer<udev_enumerate> search(udev_enumerate_new(context));
+    const bool made = search &&
+                      udev_enumerate_add_match_subsystem(search.get(), "scsi_generic") >= 0 &&
+                      udev_enumerate_add_match_property(search.get(), "KRRAID_BRIDGE", "1") >= 0 &&
+                      udev_enumerate_scan_devices(search.get()) >= 0;
+    return made ? std::move(search) : nullptr;
+}
+
+// What has gone meanwhile is not missed.
+void add_node_at(udev* context, const char* path, sg_node_list& list) {
     const udev_pointer<udev_device> device(udev_device_new_from_syspath(context, path));
-    return device ? sg_node{minor(udev_device_get_devnum(device.get())), number_of_folder(path)}
-                  : sg_node{};
+    const std::uint64_t arrival = number_of_folder(path);
+    if (device && arrival != 0) {
+        list.nodes.push_back({minor(udev_device_get_devnum(device.get())), arrival});
+    }
+    list.complete = list.complete && (device || arrival == 0);
 }
 
 } // namespace
 
-std::vector<sg_node> kernel_sg_nodes::chosen() {
-    std::vector<sg_node> nodes;
+sg_node_list kernel_sg_nodes::chosen() {
     const udev_pointer<udev> context(udev_new());
-    const udev_pointer<udev_enumerate> search(context ? udev_enumerate_new(context.get())
-                                                      : nullptr);
+    const udev_pointer<udev_enumerate> search = context ? search_in(context.get()) : nullptr;
     if (!search) {
-        return nodes;
+        return {{}, false};
     }
-    udev_enumerate_add_match_subsystem(search.get(), "scsi_generic");
-    udev_enumerate_add_match_property(search.get(), "KRRAID_BRIDGE", "1");
-    udev_enumerate_scan_devices(search.get());
+    sg_node_list list;
     udev_list_entry* entry = nullptr;
     udev_list_entry_foreach(entry, udev_enumerate_get_list_entry(search.get())) {
-        const sg_node node = node_at(context.get(), udev_list_entry_get_name(entry));
-        if (node.arrival != 0) {
-            nodes.push_back(node);
-        }
+        add_node_at(context.get(), udev_list_entry_get_name(entry), list);
     }
-    std::sort(nodes.begin(), nodes.end(),
+    std::sort(list.nodes.begin(), list.nodes.end(),
               [](const sg_node& a, const sg_node& b) { return a.arrival < b.arrival; });
-    return nodes;
+    return list;
 }
 
 opened_node kernel_sg_nodes::open(const sg_node& node) {

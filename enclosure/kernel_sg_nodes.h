@@ -7,7 +7,7 @@ namespace enclosure {
 
 class kernel_sg_nodes final : public sg_nodes {
 public:
-    std::vector<sg_node> chosen() override;
+    sg_node_list chosen() override;
     opened_node open(const sg_node& node) override;
     int command(const file_handle& node, sg_io_hdr& request) override;
     void pause() override;

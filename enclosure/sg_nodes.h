@@ -18,6 +18,11 @@ struct sg_node {
     bool operator==(const sg_node&) const = default;
 };
 
+struct sg_node_list {
+    std::vector<sg_node> nodes; // in the order of their arrival
+    bool complete = true;       // false: the system could not be asked, there may be more
+};
+
 // An open node, or why there is none.
 struct opened_node {
     file_handle file;
@@ -33,8 +38,8 @@ public:
     sg_nodes(const sg_nodes&) = delete;
     sg_nodes& operator=(const sg_nodes&) = delete;
 
-    // The nodes that the udev rule has chosen, in the order of their arrival.
-    virtual std::vector<sg_node> chosen() = 0;
+    // The nodes that the udev rule has chosen.
+    virtual sg_node_list chosen() = 0;
 
     // Opens a node for commands; ENODEV when it is not the arrival that was asked for.
     virtual opened_node open(const sg_node& node) = 0;

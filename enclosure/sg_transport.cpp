@@ -28,15 +28,18 @@ delivery delivery_of(int error) {
 bridge_listing sg_transport::bridges() {
     std::vector<std::uint32_t> handles;
     std::set<std::uint32_t> there;
-    for (const sg_node& node : nodes_.chosen()) {
+    const sg_node_list chosen = nodes_.chosen();
+    for (const sg_node& node : chosen.nodes) {
         there.insert(sg_handle_of(node));
         if (can_be_used(node)) {
             handles.push_back(sg_handle_of(node));
         }
     }
-    std::erase_if(tried_, [&there](const auto& one) { return !there.contains(one.first); });
-    std::erase_if(silent_, [&there](std::uint32_t one) { return !there.contains(one); });
-    return {std::move(handles), true};
+    if (chosen.complete) {
+        std::erase_if(tried_, [&there](const auto& one) { return !there.contains(one.first); });
+        std::erase_if(silent_, [&there](std::uint32_t one) { return !there.contains(one); });
+    }
+    return {std::move(handles), chosen.complete};
 }
 
 // Rights may come and go; what a device is does not change.
@@ -66,7 +69,8 @@ bool sg_transport::knows_our_commands(std::uint32_t handle, const file_handle& n
 }
 
 delivery sg_transport::open(std::uint32_t handle) {
-    for (const sg_node& node : nodes_.chosen()) {
+    const sg_node_list chosen = nodes_.chosen();
+    for (const sg_node& node : chosen.nodes) {
         if (sg_handle_of(node) != handle) {
             continue;
         }
@@ -77,7 +81,7 @@ delivery sg_transport::open(std::uint32_t handle) {
         opened_[handle] = std::move(opened.file);
         return delivery::answered;
     }
-    return delivery::gone;
+    return chosen.complete ? delivery::gone : delivery::no_answer;
 }
 
 void sg_transport::close(std::uint32_t handle) {

@@ -28,7 +28,7 @@ struct exchange {
 // The handles of the bridges on the bus, in the order of their arrival.
 struct bridge_listing {
     std::vector<std::uint32_t> handles;
-    bool complete = true; // false: somebody did not answer in time, there may be more
+    bool complete = true; // false: somebody could not be asked in time, there may be more
 };
 
 // Used by one thread at a time; blocks until the answer is there or its time is over. What it

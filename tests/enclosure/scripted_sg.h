@@ -17,13 +17,17 @@ public:
     using outcome = std::function<int(sg_io_hdr& request)>;
 
     std::vector<enclosure::sg_node> there;
+    bool can_be_asked = true;                    // what is there
     std::map<std::uint32_t, int> errors_of_open; // by minor number
     outcome on_command = [](sg_io_hdr&) { return 0; };
     int opened = 0; // how often
     int pauses = 0;
     std::vector<std::vector<std::uint8_t>> commands;
 
-    std::vector<enclosure::sg_node> chosen() override { return there; }
+    enclosure::sg_node_list chosen() override {
+        return can_be_asked ? enclosure::sg_node_list{there, true}
+                            : enclosure::sg_node_list{{}, false};
+    }
 
     enclosure::opened_node open(const enclosure::sg_node& node) override {
         ++opened;

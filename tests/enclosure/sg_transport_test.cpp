@@ -200,6 +200,30 @@ TEST_F(SgTransport, ConnectionsOfNodesThatWentAreClosedByTheNextListing) {
     EXPECT_EQ(library.connections(), 0U);
 }
 
+TEST_F(SgTransport, ConnectionsStayWhenTheSystemCannotBeAskedWhatIsThere) {
+    enclosure::bridge_access library(way_);
+    ASSERT_EQ(library.openConnection(sg_handle_of(first)), KRRAID_DONE);
+    nodes_.can_be_asked = false;
+    std::array<std::uint8_t, 2048> list{};
+    std::int32_t count = -1;
+    EXPECT_EQ(library.getDeviceList(list.data(), &count), KRRAID_DONE);
+    EXPECT_EQ(library.connections(), 1U);
+    EXPECT_EQ(library.openConnection(sg_handle_of(second)), KRRAID_NO_ANSWER);
+    nodes_.can_be_asked = true;
+    EXPECT_EQ(library.openConnection(sg_handle_of(second)), KRRAID_DONE);
+}
+
+TEST_F(SgTransport, WhatIsKnownOfABridgeStaysKnownWhenTheSystemCannotBeAsked) {
+    nodes_.there = {first};
+    nodes_.on_command = scripted_sg::refusing(enclosure::sense_bytes(sense::invalid_opcode));
+    EXPECT_EQ(listed(), handles{});
+    nodes_.can_be_asked = false;
+    EXPECT_FALSE(way_.bridges().complete);
+    nodes_.can_be_asked = true;
+    EXPECT_EQ(listed(), handles{});
+    EXPECT_EQ(nodes_.commands.size(), 1U);
+}
+
 // Another way, with one bridge that is not real.
 class other_way final : public enclosure::transport {
 public:

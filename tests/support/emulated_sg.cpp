@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 
 using enclosure::byte_view;
 using enclosure::delivery;
@@ -60,7 +61,7 @@ sg_node emulated_sg::node_of(std::uint32_t bridge) {
     return found == nodes_.end() ? sg_node{} : found->second;
 }
 
-std::vector<sg_node> emulated_sg::chosen() {
+enclosure::sg_node_list emulated_sg::chosen() {
     const std::lock_guard lock(mutex_);
     std::vector<sg_node> nodes;
     for (const auto& [bridge, node] : nodes_) {
@@ -68,7 +69,7 @@ std::vector<sg_node> emulated_sg::chosen() {
     }
     std::sort(nodes.begin(), nodes.end(),
               [](const sg_node& a, const sg_node& b) { return a.arrival < b.arrival; });
-    return nodes;
+    return {std::move(nodes), true};
 }
 
 opened_node emulated_sg::open(const sg_node& node) {

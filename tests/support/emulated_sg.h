@@ -15,7 +15,7 @@ public:
     // `bench` outlives it and has nothing on its bus yet.
     explicit emulated_sg(enclosure::in_process_bench& bench);
 
-    std::vector<enclosure::sg_node> chosen() override;
+    enclosure::sg_node_list chosen() override;
     enclosure::opened_node open(const enclosure::sg_node& node) override;
     int command(const enclosure::file_handle& node, sg_io_hdr& request) override;
     void pause() override {}

@@ -49,6 +49,7 @@ public:
                                [this](std::uint32_t handle) { note_departure(handle); }});
     }
     bool process() { return source_.process(); }
+    int poll_timeout() const { return source_.poll_timeout(); }
 
 private:
     void note_arrival(const bridge_identity& bridge) {

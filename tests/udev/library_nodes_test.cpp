@@ -5,6 +5,7 @@
 #include "device/bridge_node.h"
 #include "device/sg_handle.h"
 #include "tests/udev/mock_bus.h"
+#include "tests/udev/no_more_files.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -32,7 +33,17 @@ protected:
 };
 
 TEST_F(LibraryNodes, AreNoneWithoutABridge) {
-    EXPECT_THAT(nodes_.chosen(), IsEmpty());
+    EXPECT_THAT(nodes_.chosen().nodes, IsEmpty());
+    EXPECT_TRUE(nodes_.chosen().complete);
+}
+
+TEST_F(LibraryNodes, AreNotKnownToBeAllWhenTheSystemCannotBeAsked) {
+    add(device_, bridge_);
+    {
+        const no_more_files trouble;
+        EXPECT_FALSE(nodes_.chosen().complete);
+    }
+    EXPECT_TRUE(nodes_.chosen().complete);
 }
 
 TEST_F(LibraryNodes, AreThoseThatTheRuleHasChosen) {
@@ -45,7 +56,7 @@ TEST_F(LibraryNodes, AreThoseThatTheRuleHasChosen) {
     stick.sg = "1";
     stick.chosen = false;
     add(other, stick);
-    const auto chosen = nodes_.chosen();
+    const auto chosen = nodes_.chosen().nodes;
     ASSERT_THAT(chosen, SizeIs(1));
     EXPECT_EQ(chosen[0].minor, 7U);
 }
@@ -54,7 +65,7 @@ TEST_F(LibraryNodes, HaveTheHandlesThatTheRegistryGives) {
     bridge_.sg = "300";
     add(device_, bridge_);
     const std::string path = mock_bus::node_path(device_.path(), bridge_);
-    const auto chosen = nodes_.chosen();
+    const auto chosen = nodes_.chosen().nodes;
     ASSERT_THAT(chosen, SizeIs(1));
     EXPECT_NE(chosen[0].arrival, 0U);
     EXPECT_EQ(enclosure::sg_handle_of(chosen[0]), sg_handle(300, sysfs_arrival_number(path)));

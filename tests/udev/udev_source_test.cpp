@@ -1,6 +1,7 @@
 // Bridges that come, go, and come again.
 #include "tests/udev/heard_source.h"
 #include "tests/udev/mock_bus.h"
+#include "tests/udev/no_more_files.h"
 
 #include <gtest/gtest.h>
 
@@ -187,6 +188,24 @@ TEST_F(UdevSource, ABridgeThatLeftAndCameBackWhileEventsWereLostArrivesAnew) {
     ++source_.arrival;
     tell("change", bridge_);
     EXPECT_EQ(source_.told, (told{"+1", "-1", "+2"}));
+}
+
+TEST_F(UdevSource, ALookAtEverythingThatFailsChangesNothingAndIsMadeAgain) {
+    source_.listen();
+    plug(bridge_);
+    EXPECT_EQ(source_.poll_timeout(), -1);
+    source_.how = hearing::loses_events;
+    bus_.tell("change", at_, bridge_);
+    {
+        const no_more_files trouble;
+        EXPECT_TRUE(source_.process());
+    }
+    EXPECT_EQ(source_.told, told{"+1"});
+    EXPECT_EQ(source_.poll_timeout(), 1000);
+    take_out(bridge_);
+    EXPECT_TRUE(source_.process());
+    EXPECT_EQ(source_.told, (told{"+1", "-1"}));
+    EXPECT_EQ(source_.poll_timeout(), -1);
 }
 
 TEST_F(UdevSource, WhenNothingCanBeReadAnyMoreEveryBridgeDepartsAndOneLineSaysSo) {
