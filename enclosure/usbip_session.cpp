@@ -103,7 +103,8 @@ std::optional<moment> usbip_session::next_event() const {
     if (left || returned) {
         return moment{0};
     }
-    const std::optional<moment> due = link_ && has_room() ? link_->device().due() : std::nullopt;
+    const bool answers = link_ && stage_ != stage::ending && has_room();
+    const std::optional<moment> due = answers ? link_->device().due() : std::nullopt;
     return due && (!limit_ || *due < *limit_) ? due : limit_;
 }
 

@@ -246,6 +246,16 @@ TEST_F(UsbipSession, AnUnpluggedDeviceEndsItsSession) {
     EXPECT_EQ(session_.complaint(), "");
 }
 
+// Its answer cannot be sent any more, and to be woken for it again and again would be a busy loop.
+TEST_F(UsbipSession, ACommandAtWorkIsNotAwaitedOnceTheDeviceHasLeft) {
+    begin_slow_read();
+    session_.receive(control_in(3, {0xA1, 0xFE, 0, 0, 0, 0, 1, 0}, 1), desk_.now); // not fetched
+    desk_.on.unplug("box");
+    pass(moment{0});
+    EXPECT_FALSE(session_.over());
+    EXPECT_EQ(session_.next_event(), std::chrono::seconds(10));
+}
+
 TEST_F(UsbipSession, WhoAsksForNothingIsNotAwaitedForEver) {
     EXPECT_EQ(session_.next_event(), std::chrono::seconds(10));
     say(part_of(list_request(), 0, 7));
