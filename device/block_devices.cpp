@@ -55,6 +55,12 @@ bool block_devices::exists(const fs::path& path) {
     return found;
 }
 
+std::string block_devices::attribute(const std::string& folder, const char* name) {
+    sysfs_reading reading = read_sysfs_attribute(folder, name);
+    complete_ = complete_ && !reading.failed;
+    return std::move(reading.text);
+}
+
 void block_devices::add(const fs::path& link) {
     std::error_code trouble;
     const std::string folder = fs::canonical(link, trouble).string();
@@ -64,8 +70,8 @@ void block_devices::add(const fs::path& link) {
         return;
     }
     const std::string name = link.filename().string();
-    const std::string mapped = sysfs_attribute(folder + "/dm", "name");
-    all_.push_back({folder, name, mapped.empty() ? name : mapped, sysfs_attribute(folder, "dev")});
+    const std::string mapped = attribute(folder + "/dm", "name");
+    all_.push_back({folder, name, mapped.empty() ? name : mapped, attribute(folder, "dev")});
 }
 
 std::vector<block_device> block_devices::below(const std::string& folder) const {
@@ -92,8 +98,8 @@ std::vector<block_device> block_devices::holders_of(const block_device& held) {
         }
     }
     std::copy_if(all_.begin(), all_.end(), std::back_inserter(found),
-                 [&held](const block_device& one) {
-                     return is_node_of(sysfs_attribute(one.folder + "/loop", "backing_file"), held);
+                 [this, &held](const block_device& one) {
+                     return is_node_of(attribute(one.folder + "/loop", "backing_file"), held);
                  });
     return found;
 }

@@ -12,7 +12,7 @@ struct block_device {
     std::string number; // "8:17"
 };
 
-// Whether a path in /dev is that of the device.
+// Whether a path in /dev is that of the device. Any thread.
 bool is_node_of(const std::string& path, const block_device& device);
 
 // A look at all block devices at the time it is made. One thread at a time. What cannot be read is
@@ -41,6 +41,7 @@ public:
 private:
     std::vector<std::filesystem::path> entries_of(const std::filesystem::path& folder); // by name
     bool exists(const std::filesystem::path& path);
+    std::string attribute(const std::string& folder, const char* name);
     bool is_in_btrfs(const block_device& device);
     void add(const std::filesystem::path& link);
     std::vector<block_device>::const_iterator find(const std::filesystem::path& link) const;

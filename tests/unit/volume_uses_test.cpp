@@ -1,6 +1,7 @@
 // What the kernel's tables and folders say of a bridge's volume.
 #include <gmock/gmock.h>
 #include <ostream>
+#include <string>
 
 #include "device/sysfs_volume_uses.h"
 #include "tests/unit/block_tree.h"
@@ -308,6 +309,33 @@ TEST_F(VolumeUses, AreUncheckedWhileAHolderIsOnlyComing) {
     tree_.hold("sdb1", "dm-0");
     tree_.remove("sys/class/block/dm-0");
     EXPECT_THAT(uses(), ElementsAre(unchecked));
+}
+
+TEST_F(VolumeUses, AreUncheckedWhenALoopDeviceDoesNotTellItsFile) {
+    const std::string file = "sys/devices/virtual/block/loop0/loop/backing_file";
+    tree_.add_block("virtual/block", "loop0", "7:0");
+    tree_.write(file + "/folder", "");
+    EXPECT_THAT(uses(), ElementsAre(unchecked));
+    tree_.remove(file);
+    tree_.write(file, ""); // while it is being given one, or loses it
+    EXPECT_THAT(uses(), ElementsAre(unchecked));
+    tree_.remove(file); // it has none
+    EXPECT_THAT(uses(), IsEmpty());
+}
+
+TEST_F(VolumeUses, AreUncheckedWhenAMappedDeviceDoesNotTellItsName) {
+    tree_.add_virtual("dm-0", "254:0");
+    tree_.write("sys/devices/virtual/block/dm-0/dm/name/folder", "");
+    EXPECT_THAT(uses(), ElementsAre(unchecked));
+}
+
+TEST_F(VolumeUses, AreNotUncheckedForALoopDeviceOfAFileWithAnyName) {
+    const std::string file = "sys/devices/virtual/block/loop0/loop/backing_file";
+    tree_.add_block("virtual/block", "loop0", "7:0");
+    tree_.write(file, "/home/j\xC3\xBCrgen/disk.img\n");
+    EXPECT_THAT(uses(), IsEmpty());
+    tree_.write(file, "/" + std::string(300, 'a') + "\n");
+    EXPECT_THAT(uses(), IsEmpty());
 }
 
 TEST_F(VolumeUses, LeaveOutADeviceThatGoesDuringTheLook) {
