@@ -34,7 +34,9 @@ void make_folder(const fs::path& folder) {
     if (folder.has_parent_path()) {
         make_folder(folder.parent_path());
     }
-    if (::mkdir(folder.c_str(), 0700) != 0) {
+    const bool made = ::mkdir(folder.c_str(), 0700) == 0;
+    const bool came_meanwhile = !made && errno == EEXIST && fs::is_directory(folder, trouble);
+    if (!made && !came_meanwhile) {
         throw problem("cannot make folder " + folder.string() + ": " + reason() +
                       "; make it or set XDG_DATA_HOME");
     }

@@ -86,6 +86,14 @@ TEST_F(StateStore, AFolderThatCannotBeMadeIsRefused) {
     EXPECT_THROW(kept_desk(folder_.path() / "file" / "kestrelraid"), problem);
 }
 
+// To make such a path is refused as it is when another program has just made the folder: "data"
+// is made on the way, and "data/.." is there then.
+TEST_F(StateStore, AFolderThatHasComeSinceItWasMissedIsTaken) {
+    const kept_desk life(folder_.path() / "data" / ".." / "state");
+    EXPECT_TRUE(exists("state/enclosures"));
+    EXPECT_TRUE(life.lines.empty());
+}
+
 TEST_F(StateStore, EverythingIsThereAgain) {
     make_pair();
     kept_desk life(folder_.path());
