@@ -16,10 +16,12 @@ delivery delivery_of(int error) {
     case EACCES:
     case EPERM:
         return delivery::not_permitted;
-    case EBUSY: // somebody has it for himself
-        return delivery::no_answer;
-    default:
+    case ENODEV:
+    case ENXIO:
+    case ENOENT:
         return delivery::gone;
+    default: // somebody has it for himself (EBUSY), or the system lacks something
+        return delivery::no_answer;
     }
 }
 

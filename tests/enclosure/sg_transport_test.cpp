@@ -108,8 +108,17 @@ TEST_F(SgTransport, ANodeThatHasGoneCannotBeOpened) {
 }
 
 TEST_F(SgTransport, ANodeThatGoesWhileItIsOpenedIsGone) {
-    nodes_.errors_of_open[first.minor] = ENODEV;
-    EXPECT_EQ(way_.open(sg_handle_of(first)), delivery::gone);
+    for (const int error : {ENODEV, ENXIO, ENOENT}) {
+        nodes_.errors_of_open[first.minor] = error;
+        EXPECT_EQ(way_.open(sg_handle_of(first)), delivery::gone) << error;
+    }
+}
+
+TEST_F(SgTransport, ANodeThatCannotBeOpenedForWantOfMeansIsNotGone) {
+    for (const int error : {EMFILE, ENFILE, ENOMEM, EIO}) {
+        nodes_.errors_of_open[first.minor] = error;
+        EXPECT_EQ(way_.open(sg_handle_of(first)), delivery::no_answer) << error;
+    }
 }
 
 TEST_F(SgTransport, ABridgeThatSomebodyHasForHimselfDoesNotAnswer) {
