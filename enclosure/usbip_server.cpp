@@ -18,7 +18,9 @@ namespace {
 constexpr std::size_t most_clients = 72; // as many as enclosures, and some that only ask
 constexpr int most_waiting_clients = 16;
 constexpr moment time_to_recover = std::chrono::seconds(1);
-constexpr std::size_t read_at_once = 256U << 10; // bytes
+constexpr moment time_between_strangers = std::chrono::milliseconds(50);
+constexpr moment time_between_complaints = std::chrono::minutes(1); // of strangers
+constexpr std::size_t read_at_once = 256U << 10;                    // bytes
 
 sockaddr_in loopback(std::uint16_t port) {
     sockaddr_in address{};
@@ -64,6 +66,11 @@ bool send(const file_handle& socket, usbip_session& session, moment now) {
         session.sent(static_cast<std::size_t>(count), now);
     }
     return count >= 0 || errno == EAGAIN || errno == EINTR;
+}
+
+// USB/IP itself asks nobody who they are.
+bool is_welcome(std::optional<uid_t> owner) {
+    return owner && (*owner == 0 || *owner == ::geteuid());
 }
 
 } // namespace
@@ -160,10 +167,13 @@ void usbip_server::admit(moment now) {
         return;
     }
     complained_ = false;
-    if (is_welcome(connection, peer)) {
-        set_option(connection, IPPROTO_TCP, TCP_NODELAY);
-        clients_.emplace_back(std::move(connection), exports_, now);
+    const std::optional<uid_t> owner = owners_.owner(peer, own_address(connection));
+    if (!is_welcome(owner)) {
+        turn_away(owner, now);
+        return;
     }
+    set_option(connection, IPPROTO_TCP, TCP_NODELAY);
+    clients_.emplace_back(std::move(connection), exports_, now);
 }
 
 // Who could not be taken is still waiting: to be told of it again at once would be a busy loop.
@@ -178,15 +188,16 @@ void usbip_server::pause(moment now) {
     listens_again_ = now + time_to_recover;
 }
 
-// USB/IP itself asks nobody who they are.
-bool usbip_server::is_welcome(const file_handle& connection, const sockaddr_in& peer) {
-    const std::optional<uid_t> owner = owners_.owner(peer, own_address(connection));
-    if (owner && (*owner == 0 || *owner == ::geteuid())) {
-        return true;
+// Each one costs a look at the kernel's table and a line, so many could keep the service busy and
+// fill the log.
+void usbip_server::turn_away(std::optional<uid_t> owner, moment now) {
+    listens_again_ = now + time_between_strangers;
+    if (now < names_strangers_) {
+        return;
     }
+    names_strangers_ = now + time_between_complaints;
     complain_("closed a USB/IP connection: its client belongs to " +
               (owner ? "user " + std::to_string(*owner) : std::string("nobody who can be found")));
-    return false;
 }
 
 } // namespace enclosure

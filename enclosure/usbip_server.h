@@ -30,7 +30,8 @@ public:
     std::uint16_t port() const;
 
     // Adds what to wait for. While nobody can be taken for want of files or memory, that is not
-    // who comes: it is tried again when a client has gone, and every second.
+    // who comes: it is tried again when a client has gone, and every second. Nor is it for 50 ms
+    // after somebody has been turned away.
     void watch(std::vector<pollfd>& watched) const;
 
     // When serve() is next needed though nothing came; nothing while no time is awaited.
@@ -54,7 +55,7 @@ private:
     bool may_listen() const;
     void admit(moment now);
     void pause(moment now);
-    bool is_welcome(const file_handle& connection, const sockaddr_in& peer);
+    void turn_away(std::optional<uid_t> owner, moment now);
     void go_on(client& with, short events, moment now);
     bool receive(client& from, moment now);
 
@@ -63,8 +64,9 @@ private:
     line_sink complain_;
     std::vector<std::uint8_t> buffer_; // for what is being read
     std::list<client> clients_;
-    std::optional<moment> listens_again_; // after somebody could not be taken
-    bool complained_ = false;             // of that
+    std::optional<moment> listens_again_; // after somebody could not be taken, or was turned away
+    bool complained_ = false;             // of the former
+    moment names_strangers_{0};           // from then on
     file_handle listener_;                // the first to go
 };
 
