@@ -30,7 +30,7 @@ bridge_commands::outcome bridge_commands::send(std::uint32_t handle, const vendo
         return decode_sense(made.reply.sense) == sense::no_medium ? outcome::no_disk
                                                                   : outcome::failed;
     }
-    if (made.reply.data_in.size() != in.size()) {
+    if (made.cut_short || made.reply.data_in.size() != in.size()) {
         return outcome::failed;
     }
     std::copy(made.reply.data_in.begin(), made.reply.data_in.end(), in.begin());

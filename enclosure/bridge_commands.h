@@ -12,8 +12,8 @@ namespace enclosure {
 class bridge_commands {
 public:
     enum class outcome {
-        done,          // answered with status good and the expected number of bytes
-        failed,        // refused, or answered with less
+        done,          // answered with status good, and all data went their way
+        failed,        // refused, or answered though less than all did
         no_disk,       // refused, since there is no disk in the bay
         no_answer,     // in time or unharmed
         not_permitted, // to this user

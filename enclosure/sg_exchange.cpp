@@ -57,8 +57,8 @@ void attach(std::vector<std::uint8_t>& data, int direction, sg_io_hdr& request) 
     request.dxfer_len = static_cast<unsigned>(data.size());
 }
 
-// What came of `wanted` bytes.
-std::size_t received(std::size_t wanted, int residue) {
+// What went its way of `wanted` bytes.
+std::size_t moved(std::size_t wanted, int residue) {
     const std::size_t missing = static_cast<std::size_t>(std::max(residue, 0));
     return wanted - std::min(wanted, missing);
 }
@@ -85,9 +85,9 @@ exchange made_once(sg_nodes& nodes, const file_handle& node, byte_view cdb, byte
     reply.status = static_cast<scsi_status>(request.status);
     reply.sense.assign(sense.begin(),
                        sense.begin() + std::min<std::ptrdiff_t>(request.sb_len_wr, longest_sense));
-    in.resize(received(in.size(), request.resid));
+    in.resize(moved(in.size(), request.resid));
     reply.data_in = std::move(in);
-    return {delivery::answered, std::move(reply)};
+    return {delivery::answered, std::move(reply), moved(out.size(), request.resid) < out.size()};
 }
 
 // The device refused since something has happened to it, and carried nothing out.

@@ -22,7 +22,8 @@ enum class delivery {
 
 struct exchange {
     delivery state = delivery::gone;
-    scsi_reply reply; // when answered
+    scsi_reply reply;       // when answered
+    bool cut_short = false; // then: the bridge took less than all of the data sent to it
 };
 
 // The handles of the bridges on the bus, in the order of their arrival.

@@ -148,6 +148,24 @@ TEST_F(SgTransport, TheLibrarySaysWhyACommandHadNoAnswer) {
     EXPECT_EQ(library.connections(), 0U);
 }
 
+TEST_F(SgTransport, AWriteOfWhichTheDeviceTookLessThanAllHasFailed) {
+    enclosure::bridge_access library(way_);
+    const std::uint32_t device = sg_handle_of(first);
+    ASSERT_EQ(library.openConnection(device), KRRAID_DONE);
+    const std::array<std::uint8_t, 512> sector{};
+    for (const int residue : {0, 1, 512, 1 << 30, -1}) {
+        nodes_.commands.clear();
+        nodes_.on_command = [residue](sg_io_hdr& request) {
+            request.resid = residue;
+            return 0;
+        };
+        EXPECT_EQ(library.krSetRaidInfoFW(device, sector.data(), 512, 9, 0),
+                  residue > 0 ? KRRAID_FAILED : KRRAID_DONE)
+            << residue;
+        EXPECT_EQ(nodes_.commands.size(), 1U);
+    }
+}
+
 TEST_F(SgTransport, ASilentBridgeIsWaitedForShortlyUntilItAnswersAgain) {
     const std::uint32_t device = sg_handle_of(first);
     ASSERT_EQ(way_.open(device), delivery::answered);
