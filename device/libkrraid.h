@@ -21,7 +21,7 @@ extern "C" {
 
 enum {
     KRRAID_DONE = 0,
-    KRRAID_FAILED = -1,        /* the bridge refused or cut it short, or was not asked: an argument is wrong */
+    KRRAID_FAILED = -1,        /* refused or cut short by the bridge, or an argument is wrong */
     KRRAID_NO_DISK = -2,       /* there is no disk in that bay */
     KRRAID_NO_ANSWER = -3,     /* in time or unharmed; the bridge may still be there */
     KRRAID_NOT_PERMITTED = -4, /* the user has no access to the bridge */

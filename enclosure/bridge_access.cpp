@@ -121,7 +121,7 @@ std::int32_t bridge_access::openConnection(std::uint32_t device) {
 std::int32_t bridge_access::closeConnection(std::uint32_t device) {
     const std::lock_guard lock(mutex_);
     if (!open_.contains(device)) {
-        return failure;
+        return KRRAID_GONE;
     }
     forget(device);
     return success;

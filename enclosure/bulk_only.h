@@ -24,7 +24,8 @@ public:
     virtual scsi_reply execute(byte_view cdb, byte_view data_out, std::uint32_t allocation) = 0;
 };
 
-// How many bytes a command takes from the host, by its own words; 0 for all that take none.
+// How many bytes a command takes from the host, by its own words; 0 for all that take none, and for
+// what is no whole command. Any thread, any bytes.
 std::uint64_t outgoing_bytes(byte_view cdb);
 
 enum class pipe { in, out };

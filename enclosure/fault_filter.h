@@ -8,9 +8,11 @@
 
 namespace enclosure {
 
-// Hands requests on to the next link and strikes those that its rule is about.
+// Hands requests on to the next link and strikes those that its rule is about. One thread at a
+// time, that of the chip; what fails is in the result.
 class fault_filter : public disk_io {
 public:
+    // `next` outlives it.
     fault_filter(const fault_rule& rule, disk_io& next) : rule_(rule), next_(&next) {}
 
     bool perform(const io_request& request) final;
@@ -38,7 +40,8 @@ struct hold_up {
     bool for_ever = false; // it never comes
 };
 
-// The filter for a rule. Those that hold the answer up note it in `met`, which must outlive them.
+// The filter for a rule that makes sense. Those that hold the answer up note it in `met`, which
+// must outlive them.
 std::unique_ptr<fault_filter> make_filter(const fault_rule& rule, disk_io& next, hold_up& met);
 
 } // namespace enclosure

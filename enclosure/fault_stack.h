@@ -10,8 +10,10 @@
 
 namespace enclosure {
 
+// One thread at a time, that of the chip. Only add() throws.
 class fault_stack final : public disk_io {
 public:
+    // `disks` outlives it.
     explicit fault_stack(disk_io& disks) : disks_(disks) {}
 
     // Puts a fault on top of those there are. Throws problem when the rule makes no sense or

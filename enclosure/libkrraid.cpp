@@ -22,7 +22,7 @@ template<class Operation> int32_t safely(Operation operation) {
     try {
         return operation(operations());
     } catch (const std::exception&) {
-        return -1;
+        return KRRAID_FAILED;
     }
 }
 

@@ -5,7 +5,8 @@
 
 namespace enclosure {
 
-// Lives until the process ends. Which one it is, is the library's that links it.
+// Lives until the process ends. Which one it is, is the library's that links it. Any thread may ask
+// for it; it serves one at a time. Throws bad_alloc alone.
 transport& library_way();
 
 } // namespace enclosure

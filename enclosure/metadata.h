@@ -11,6 +11,8 @@
 
 namespace enclosure {
 
+// All that is declared here: any thread, no errors; a sector may hold any bytes.
+
 enum class array_kind : std::uint8_t { none = 0, stripe = 1, mirror = 2, span = 4 };
 
 // What a disk's identity looks like from its partner's sector: words 10-19 and 27-46 as they are.
@@ -29,7 +31,7 @@ struct array_record {
     bool copy_source = false;             // its data is to be copied to the partner
     std::uint64_t sectors = 0;            // of the whole array
     raw_identity partner;                 // all zero when there is none
-    std::array<std::uint8_t, 16> stamp{}; // time of writing, 14 digits and two zeros
+    std::array<std::uint8_t, 16> stamp{}; // time of writing: 14 digits, a zero, the mark of below
 
     bool operator==(const array_record&) const = default;
 };
@@ -44,10 +46,12 @@ std::optional<array_record> read_record(const sector_data& sector);
 // The sector for a record.
 sector_data write_record(const array_record& record);
 
-// Marks a member's sector: data was written to it without its partner. Its stamp becomes later than
-// the partner's, and never the same as that of a partner marked likewise.
+// Marks a member's sector in the last byte of its stamp: data was written to it without its
+// partner. Its stamp becomes later than the partner's, and never the same as that of a partner
+// marked likewise.
 void mark_alone(sector_data& sector);
 
+// Takes that mark away; a sector without it stays as it is.
 void unmark_alone(sector_data& sector);
 
 // Whether the member carries that mark.

@@ -29,7 +29,8 @@ enum opcode : std::uint8_t {
 // Whether the byte is one of these or the vendor command's. Any thread; no errors.
 bool is_known(std::uint8_t code);
 
-// The length in bytes that the opcode's group prescribes; 0 for groups without one.
+// The length in bytes, 6 to 16, that the opcode's group prescribes; 0 for groups without one. Any
+// thread; no errors.
 std::size_t cdb_length(std::uint8_t code);
 
 } // namespace enclosure

@@ -9,6 +9,8 @@
 
 namespace enclosure {
 
+// All of it: any thread, no errors; records may say anything.
+
 // A port as the chip knows it.
 struct port_view {
     bool present = false;

@@ -7,6 +7,8 @@
 
 namespace enclosure {
 
+// All of it: any thread; no errors, if what is said of the arguments holds.
+
 // Sectors of a stripe that lie together on one disk: 64 KiB.
 inline constexpr std::uint64_t stripe_chunk = 128;
 

@@ -148,6 +148,12 @@ TEST_F(SgTransport, TheLibrarySaysWhyACommandHadNoAnswer) {
     EXPECT_EQ(library.connections(), 0U);
 }
 
+TEST_F(SgTransport, OfABridgeThatIsNotOpenTheLibrarySaysThatItIsGone) {
+    enclosure::bridge_access library(way_);
+    EXPECT_EQ(library.krWarmBoot(sg_handle_of(first)), KRRAID_GONE);
+    EXPECT_EQ(library.closeConnection(sg_handle_of(first)), KRRAID_GONE);
+}
+
 TEST_F(SgTransport, AWriteOfWhichTheDeviceTookLessThanAllHasFailed) {
     enclosure::bridge_access library(way_);
     const std::uint32_t device = sg_handle_of(first);
