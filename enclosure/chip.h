@@ -79,6 +79,7 @@ public:
 private:
     scsi_reply dispatch(byte_view cdb, byte_view data_out);
     scsi_reply carry_out(byte_view cdb, byte_view data_out);
+    static scsi_reply report_luns(byte_view cdb);
     scsi_reply inquiry(byte_view cdb) const;
     scsi_reply test_ready() const;
     scsi_reply request_sense(byte_view cdb) const;

@@ -19,7 +19,7 @@ usb_exports::finding usb_exports::look_at(const cabinet& what) const {
         return found;
     }
     found.handle = *what.handle();
-    found.state = is_taken(found.handle) ? presence::taken : presence::free;
+    found.state = taken_.contains(found.handle) ? presence::taken : presence::free;
     return found;
 }
 

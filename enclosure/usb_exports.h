@@ -35,7 +35,6 @@ public:
     // A client has, or no longer has, the device that is there by this handle.
     void take(std::uint32_t handle) { taken_.insert(handle); }
     void give_back(std::uint32_t handle) { taken_.erase(handle); }
-    bool is_taken(std::uint32_t handle) const { return taken_.contains(handle); }
 
     bool is_there(std::uint32_t handle) const;
 

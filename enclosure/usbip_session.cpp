@@ -1,5 +1,8 @@
 #include "enclosure/usbip_session.h"
 
+#include "enclosure/imported_device.h"
+#include "enclosure/usb_bridge.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -33,37 +36,6 @@ bool carries_data(const command& got) {
 }
 
 } // namespace
-
-// The imported device, which no other client has meanwhile.
-class usbip_session::device_link final : public usb::scsi_target {
-public:
-    device_link(usb_exports& exports, const usb_exports::finding& found)
-        : exports_(exports),
-          handle_(found.handle),
-          id_(found.device.id()),
-          device_(found.identity, *this) {
-        exports_.take(handle_);
-    }
-    ~device_link() override { exports_.give_back(handle_); }
-
-    scsi_reply execute(byte_view cdb, byte_view data_out, std::uint32_t allocation) override {
-        std::optional<scsi_reply> reply = exports_.execute(handle_, cdb, data_out, allocation);
-        if (!reply) {
-            reply.emplace().unanswered = true;
-        }
-        return *std::move(reply);
-    }
-
-    bool is_there() const { return exports_.is_there(handle_); }
-    std::uint32_t id() const { return id_; }
-    usb::bridge_device& device() { return device_; }
-
-private:
-    usb_exports& exports_;
-    std::uint32_t handle_;
-    std::uint32_t id_;
-    usb::bridge_device device_;
-};
 
 usbip_session::usbip_session(usb_exports& exports, moment now)
     : exports_(exports), limit_(now + time_to_ask) {}
@@ -164,7 +136,7 @@ void usbip_session::import(moment now) {
         stage_ = stage::waiting;
         return;
     case usb_exports::presence::free:
-        link_ = std::make_unique<device_link>(exports_, found);
+        link_ = std::make_unique<imported_device>(exports_, found);
         stage_ = stage::imported;
         limit_.reset();
         send(usbip::import_reply(found.device));

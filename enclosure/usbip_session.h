@@ -1,7 +1,7 @@
 // What one client of USB/IP says and is told.
 #pragma once
 
-#include "enclosure/usb_bridge.h"
+#include "enclosure/units.h"
 #include "enclosure/usb_exports.h"
 #include "enclosure/usbip_wire.h"
 
@@ -11,6 +11,8 @@
 #include <string>
 
 namespace enclosure {
+
+class imported_device;
 
 // Bytes in, bytes out: no socket, no thread, no clock of its own. One thread at a time. Any bytes
 // are safe; what breaks the protocol ends the session.
@@ -46,7 +48,6 @@ public:
 
 private:
     enum class stage { greeting, waiting, imported, leaving, ending };
-    class device_link;
 
     byte_view unread() const { return byte_view(input_).subspan(read_); }
     bool read_one(moment now);
@@ -72,7 +73,7 @@ private:
     usbip::bytes output_;
     std::string complaint_;
     std::string busid_; // asked for
-    std::unique_ptr<device_link> link_;
+    std::unique_ptr<imported_device> link_;
     std::optional<moment> limit_; // for what the client still has to do, or what it waits for
 };
 
