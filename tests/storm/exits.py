@@ -2,7 +2,8 @@
 """exits.py STORM COUNT [SEED]: has a storm leave at COUNT random moments.
 
 Each must end by itself with 0, or with 3 when a bridge was gone before it could be opened; its last
-sector must have been read back; and every RAID record on the disks must be one that was written.
+sector must have been read back; and the RAID record of every disk must be one that was written. Most
+must be ends at the moment chosen, not those of a bridge that had gone, or of a storm that was over.
 """
 
 import collections
@@ -17,28 +18,35 @@ STEPS = 2000
 PATIENCE = 120  # seconds until a process that should have left counts as hanging
 DISKS = {name: 70000 + 100 * index for index, name in enumerate("abcdefgh")}  # sectors, as in steps.cpp
 RECORD = 15  # sectors before the end
+MIDWAY = 0.5  # so many of the ends, at least, are those at a chosen moment of the storm
 
 
 class Wrong(Exception):
     pass
 
 
-def journal(folder):
-    """The sectors written, by address; and what was left undone."""
-    written = collections.defaultdict(set)
-    under_way = None
-    path = os.path.join(folder, "journal")
-    if not os.path.exists(path):
-        return written, under_way
-    with open(path, encoding="ascii") as lines:
-        for line in lines:
-            word, lba, *data = line.split()
-            if word == "write":
-                written[int(lba)].add(bytes.fromhex(data[0]))
-                under_way = line[:20]
-            elif word in ("read", "failed"):
-                under_way = None
-    return written, under_way
+End = collections.namedtuple("End", "status midway written")
+
+
+class Journal:
+    """What a storm has written down: sectors by address, what was left undone, whether it left at the moment chosen."""
+
+    def __init__(self, folder):
+        self.written = collections.defaultdict(set)
+        self.under_way = None
+        self.midway = False
+        with open(os.path.join(folder, "journal"), encoding="ascii") as lines:
+            for line in lines:
+                self._take(line, *line.split())
+
+    def _take(self, line, word, lba=None, data=None):
+        if word == "write":
+            self.written[int(lba)].add(bytes.fromhex(data))
+            self.under_way = line[:20]
+        elif word in ("read", "failed"):
+            self.under_way = None
+        elif word == "midway":
+            self.midway = True
 
 
 def records(folder):
@@ -52,8 +60,19 @@ def records(folder):
                     yield file, lba, image.read(512)
 
 
+def check_records(seed, folder, written):
+    """The RAID record of each disk is one that was written whole."""
+    looked = 0
+    for name, lba, record in records(folder):
+        looked += 1
+        if record not in written[lba]:
+            raise Wrong(f"seed {seed}: the record of {name} is neither old nor new")
+    if looked != len(DISKS):
+        raise Wrong(f"seed {seed}: {looked} disks instead of {len(DISKS)}")
+
+
 def leave_once(program, seed):
-    """The exit status, how many records were looked at and how many sectors had been written."""
+    """How it ended: the status, whether at the moment chosen, and how many different sectors were written."""
     with tempfile.TemporaryDirectory() as folder:
         run = subprocess.Popen([program, str(STEPS), str(seed), "leave", folder],
                                env=dict(os.environ, TMPDIR=folder),
@@ -65,15 +84,11 @@ def leave_once(program, seed):
             raise Wrong(f"seed {seed}: hangs") from None
         if run.returncode not in (0, 3):
             raise Wrong(f"seed {seed}: ended with {run.returncode}\n{said}")
-        written, under_way = journal(folder)
-        if under_way:
-            raise Wrong(f"seed {seed}: cut off after '{under_way}'")
-        looked = 0
-        for name, lba, record in records(folder):
-            looked += 1
-            if record not in written[lba]:
-                raise Wrong(f"seed {seed}: the record of {name} is neither old nor new")
-        return run.returncode, looked, sum(map(len, written.values()))
+        journal = Journal(folder)
+        if journal.under_way:
+            raise Wrong(f"seed {seed}: cut off after '{journal.under_way}'")
+        check_records(seed, folder, journal.written)
+        return End(run.returncode, journal.midway, sum(map(len, journal.written.values())))
 
 
 def main():
@@ -86,10 +101,14 @@ def main():
     except Wrong as wrong:
         print(f"NOT SO: {wrong}")
         sys.exit(1)
-    by_status = collections.Counter(status for status, _, _ in ends)
-    print(f"{by_status[0]} left with 0, {by_status[3]} with 3; "
-          f"{sum(looked for _, looked, _ in ends)} records whole, "
-          f"{sum(written for _, _, written in ends)} different sectors written before")
+    by_status = collections.Counter(end.status for end in ends)
+    midway = sum(end.midway for end in ends)
+    print(f"{by_status[0]} left with 0, {by_status[3]} with 3, {midway} at the moment chosen; "
+          f"{len(DISKS) * len(ends)} records whole, "
+          f"{sum(end.written for end in ends)} different sectors written before")
+    if midway < MIDWAY * len(ends):
+        print(f"NOT SO: only {midway} of {len(ends)} ended at the moment chosen")
+        sys.exit(1)
 
 
 main()

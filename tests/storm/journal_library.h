@@ -14,11 +14,13 @@ class journal_library final : public enclosure_library {
 public:
     using enclosure_library::enclosure_library;
 
-    // Both before any thread calls; without a file nothing is written down.
+    // Before any thread calls; without a file nothing is written down.
     void write_into(const std::string& file);
     // A sector that is there from the beginning, as if it had been written now.
     void know(std::uint64_t lba, const void* record);
-    // Runs `action` within the nth call from now on that reads or writes a sector.
+    // A line of others, with its end. Any thread.
+    void note(const std::string& line) const;
+    // Runs `action` within the nth call that reads or writes a sector. Before any thread calls.
     void on_nth(int nth, std::function<void()> action);
 
     std::int32_t krGetRaidInfo(std::uint32_t device, void* buffer, std::uint32_t length,
@@ -34,7 +36,6 @@ private:
     std::int32_t was_read(std::uint64_t lba, std::int32_t status);
     void will_write(std::uint64_t lba, const void* record);
     std::int32_t was_written(std::uint64_t lba, std::int32_t status);
-    void note(const std::string& line) const;
 
     int file_ = -1;
     std::atomic<int> calls_left_{0};

@@ -3,7 +3,8 @@
 //
 // storm STEPS [SEED]              so many steps; 1 when something is not as it should be
 // storm STEPS SEED leave FOLDER   leaves at a random moment by the program's own way, with 0, or
-//                                 with 3 when a bridge could not be opened; journal in FOLDER
+//                                 with 3 when a bridge could not be opened; journal in FOLDER,
+//                                 with a line "midway" at that moment
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
@@ -65,6 +66,7 @@ void no_window::show_error_and_exit(const std::string& /*message*/) {}
 namespace {
 
 constexpr int samples = 40;
+constexpr int fewest_steps = 4; // a sample in either half
 
 // Two that keep pace with each other.
 class pace {
@@ -168,7 +170,10 @@ int leave_midway(std::uint64_t seed, int steps, const std::string& folder) {
     wake_point now;
     library.write_into(folder + "/journal");
     std::mt19937_64 random(seed);
-    library.on_nth(1 + static_cast<int>(random() % calls), [&now] { now.wake(); });
+    library.on_nth(1 + static_cast<int>(random() % calls), [&now] {
+        library.note("midway\n");
+        now.wake();
+    });
     std::thread door([&now] {
         now.wait();
         way_out.leave(0);
@@ -184,11 +189,12 @@ int leave_midway(std::uint64_t seed, int steps, const std::string& folder) {
 
 int main(int count, char** words) {
     const std::vector<std::string> arguments(words + 1, words + count);
-    if (arguments.empty()) {
-        std::fprintf(stderr, "usage: storm STEPS [SEED [leave FOLDER]]\n");
+    const int steps = arguments.empty() ? 0 : std::stoi(arguments[0]);
+    if (steps < fewest_steps) {
+        std::fprintf(stderr, "usage: storm STEPS [SEED [leave FOLDER]], at least %d steps\n",
+                     fewest_steps);
         return 2;
     }
-    const int steps = std::stoi(arguments[0]);
     const std::uint64_t seed =
         arguments.size() > 1 ? std::stoull(arguments[1]) : std::random_device()();
     std::printf("storm %d %llu\n", steps, static_cast<unsigned long long>(seed));
