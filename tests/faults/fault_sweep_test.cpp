@@ -1,14 +1,15 @@
 // Every operation with every one of its library calls struck by every kind of fault in turn.
 #include <gtest/gtest.h>
-#include <iomanip>
-#include <iostream>
-#include <map>
+#include <memory>
+#include <optional>
+#include <string>
 #include <thread>
 
 #include "device/hotplug.h"
 #include "model/krtool.h"
 #include "model/rescan.h"
 #include "model/wake_point.h"
+#include "tests/faults/fault_tally.h"
 #include "tests/faults/swept_operation.h"
 #include "tests/support/change_fixture.h"
 #include "tests/support/fault.h"
@@ -23,52 +24,8 @@ struct ending {
     bool left = false; // the process, with status 3
 };
 
-// What came of it, besides what comes of it without a fault.
-enum class outcome { usual, degraded, misread };
-
-// Cases by operation and fault; how often the half of a mirror was degraded, for the other was
-// not seen; how often something misread was written. Printed at the end.
-class tally final : public testing::Environment {
-public:
-    void count(const std::string& operation, const std::string& kind) {
-        ++cases_[operation][kind];
-        ++cases_[operation]["sum"];
-        ++cases_["sum"][kind];
-        ++cases_["sum"]["sum"];
-    }
-    void count(const std::string& operation, outcome what) {
-        const std::string column = what == outcome::degraded ? "degr." : "misr.";
-        if (what != outcome::usual) {
-            ++cases_[operation][column];
-            ++cases_["sum"][column];
-        }
-    }
-
-    void TearDown() override {
-        std::vector<std::string> columns;
-        for (const fault& kind : every_fault()) {
-            columns.push_back(kind.name);
-        }
-        columns.insert(columns.end(), {"sum", "degr.", "misr."});
-        std::cout << std::left << std::setw(24) << "cases" << std::right;
-        for (const std::string& column : columns) {
-            std::cout << std::setw(6) << column;
-        }
-        for (auto& [operation, counts] : cases_) {
-            std::cout << '\n' << std::left << std::setw(24) << operation << std::right;
-            for (const std::string& column : columns) {
-                std::cout << std::setw(6) << counts[column];
-            }
-        }
-        std::cout << '\n';
-    }
-
-private:
-    std::map<std::string, std::map<std::string, int>> cases_;
-};
-
 // Google Test owns it.
-tally& the_tally = *new tally;
+fault_tally& the_tally = *new fault_tally;
 const testing::Environment* const registered = testing::AddGlobalTestEnvironment(&the_tally);
 
 class Operation : public change_test, public testing::WithParamInterface<swept_operation> {
@@ -329,6 +286,7 @@ TEST_P(Operation, BearsEveryFaultOfAnyOneCall) {
             expect_bears(kind, nth);
         }
     }
+    EXPECT_GT(the_tally.cases(GetParam().name), 0) << "it calls nothing";
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, Operation, testing::ValuesIn(every_swept_operation()), name_of);

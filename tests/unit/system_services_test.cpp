@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <ctime>
+#include <dlfcn.h>
 #include <functional>
 #include <future>
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include <stdexcept>
 #include <string>
 #include <sys/resource.h>
+#include <syslog.h>
 #include <thread>
 #include <unistd.h>
 
@@ -99,7 +101,17 @@ TEST(DetachedThreadsDeathTest, ThatCannotBeMadeAreToldSo) {
 
 #endif
 
+// In place of the C library's: what goes to the log of the machine goes to standard error too.
+extern "C" void openlog(const char* name, int options, int facility) {
+    using opening = void (*)(const char*, int, int);
+    static const auto real = reinterpret_cast<opening>(::dlsym(RTLD_NEXT, "openlog"));
+    real(name, options | LOG_PERROR, facility);
+}
+
 TEST(SystemLog, TakesALineWithPercentSignsAsItStands) {
     system_log log;
-    EXPECT_NO_FATAL_FAILURE(log.line("Kestrel : RAID size %s %n < 2TB"));
+    testing::internal::CaptureStderr();
+    log.line("Kestrel : RAID size %s %n < 2TB");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "kestrelraid[" + std::to_string(::getpid()) + "]: Kestrel : RAID size %s %n < 2TB\n");
 }
