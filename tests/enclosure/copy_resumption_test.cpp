@@ -3,6 +3,7 @@
 #include "enclosure/vendor_commands.h"
 
 #include "tests/enclosure/builders.h"
+#include "tests/enclosure/kept_copy.h"
 #include "tests/enclosure/kept_desk.h"
 #include "tests/enclosure/temporary_folder.h"
 
@@ -24,20 +25,8 @@ class CopyResumption : public testing::Test {
 protected:
     CopyResumption() {
         kept_desk life(folder_.path());
-        life.on.add_enclosure(usb_settings("box"));
-        for (const std::string name : {"a", "b", "c"}) {
-            life.on.add_disk(name, build_identify(label_of(size, "serial-" + name)));
-        }
-        life.on.insert("box", 0, "a");
-        life.on.insert("box", 1, "b");
-        life.on.arrange("box", scenario::rebuild);
-        life.on.set_rate("box", rate * sector_size, 0s);
-        life.on.plug("box", 0s);
-    }
-
-    static void run(kept_desk& life, moment until) {
-        while (life.on.advance(until)) {
-        }
+        begin_a_copy(life, size, rate);
+        life.on.add_disk("c", build_identify(label_of(size, "serial-c")));
     }
 
     static const chip& chip_of(const kept_desk& life) {
@@ -83,7 +72,7 @@ protected:
 TEST_F(CopyResumption, AFinishedCopyDoesNotStandForOneThatWasOrderedAfterIt) {
     {
         kept_desk life(folder_.path());
-        run(life, 1h);
+        life.run(1h);
         ASSERT_FALSE(chip_of(life).copy().running());
         order_anew(life);
         life.store.save_enclosure(life.on.enclosure("box"));
@@ -96,7 +85,7 @@ TEST_F(CopyResumption, AFinishedCopyDoesNotStandForOneThatWasOrderedAfterIt) {
 TEST_F(CopyResumption, AHalfDoneCopyIsNotGoneOnWithForOneThatWasOrderedAfterIt) {
     {
         kept_desk life(folder_.path());
-        run(life, 3s);
+        life.run(3s);
         order_anew(life);
         life.store.save_enclosure(life.on.enclosure("box"));
     }
@@ -107,7 +96,7 @@ TEST_F(CopyResumption, AHalfDoneCopyIsNotGoneOnWithForOneThatWasOrderedAfterIt) 
 TEST_F(CopyResumption, ARestartThatTheServiceDoesNotOutliveBeginsTheCopyAnew) {
     {
         kept_desk life(folder_.path());
-        run(life, 1h);
+        life.run(1h);
         life.on.warm_boot("box", 1h);
     }
     const kept_desk life(folder_.path());
@@ -117,7 +106,7 @@ TEST_F(CopyResumption, ARestartThatTheServiceDoesNotOutliveBeginsTheCopyAnew) {
 TEST_F(CopyResumption, AFinishedCopyWhoseMarksWereTakenAwayStaysReported) {
     {
         kept_desk life(folder_.path());
-        run(life, 1h);
+        life.run(1h);
         array_record source = record_of(life, "a");
         source.copy_source = false;
         write_over_the_bus(life, 0, source);
@@ -130,7 +119,7 @@ TEST_F(CopyResumption, AFinishedCopyWhoseMarksWereTakenAwayStaysReported) {
 
 TEST_F(CopyResumption, AFinishedCopyDoesNotStandForAnotherDiskInTheTargetsBay) {
     kept_desk life(folder_.path());
-    run(life, 1h);
+    life.run(1h);
     ASSERT_EQ(chip_of(life).presented().state, volume_state::in_order);
     replace_second_by_another_member(life);
     EXPECT_EQ(chip_of(life).presented().state, volume_state::copying);
@@ -141,7 +130,7 @@ TEST_F(CopyResumption, AFinishedCopyDoesNotStandForAnotherDiskInTheTargetsBay) {
 TEST_F(CopyResumption, AHalfDoneCopyIsNotGoneOnWithOnAnotherDisk) {
     {
         kept_desk life(folder_.path());
-        run(life, 3s);
+        life.run(3s);
         replace_second_by_another_member(life);
     }
     const kept_desk life(folder_.path());
@@ -150,7 +139,7 @@ TEST_F(CopyResumption, AHalfDoneCopyIsNotGoneOnWithOnAnotherDisk) {
 
 TEST_F(CopyResumption, ADiskPutBackLeavesTheCopyWhereItStopped) {
     kept_desk life(folder_.path());
-    run(life, 3s);
+    life.run(3s);
     life.on.pull("box", 1);
     life.on.insert("box", 1, "b");
     EXPECT_EQ(chip_of(life).copy().progress(), (copy_progress{0, area, 3000}));
@@ -159,7 +148,7 @@ TEST_F(CopyResumption, ADiskPutBackLeavesTheCopyWhereItStopped) {
 TEST_F(CopyResumption, ACopyThatAWriteHasThrownBackGoesOnFromThere) {
     {
         kept_desk life(folder_.path());
-        run(life, 3s);
+        life.run(3s);
         life.store.save_enclosure(life.on.enclosure("box"));
         fault_rule rule;
         rule.operation = io_kind::write;
@@ -174,7 +163,7 @@ TEST_F(CopyResumption, ACopyThatAWriteHasThrownBackGoesOnFromThere) {
     }
     kept_desk life(folder_.path());
     EXPECT_EQ(chip_of(life).copy().progress(), (copy_progress{0, area, 100}));
-    run(life, 1h);
+    life.run(1h);
     sector_data copied{};
     ASSERT_TRUE(life.on.disks().at("b")->image().read(100, copied));
     EXPECT_EQ(copied, sector_number(7));
@@ -183,7 +172,7 @@ TEST_F(CopyResumption, ACopyThatAWriteHasThrownBackGoesOnFromThere) {
 TEST_F(CopyResumption, AProgressIsNotKeptWithoutTheDiskThatHasIt) {
     {
         kept_desk life(folder_.path());
-        run(life, 3s);
+        life.run(3s);
         life.on.pull("box", 1);
     }
     std::ifstream file(folder_.path() / "enclosures/box.json");

@@ -217,16 +217,21 @@ public:
     std::vector<std::pair<std::uint64_t, std::vector<std::uint8_t>>> what;
 };
 
-TEST(TornWrite, OfManySectorsEndsInTheFirstOneStruck) {
-    written_down disk;
-    fault_stack faults(disk);
+fault_rule torn_write(std::uint32_t byte, std::uint64_t first_lba = 0,
+                      std::uint64_t last_lba = fault_rule{}.last_lba) {
     fault_rule rule;
     rule.kind = fault_kind::tear;
     rule.operation = io_kind::write;
-    rule.first_lba = 102;
-    rule.last_lba = 103;
-    rule.byte = 511;
-    faults.add(rule);
+    rule.first_lba = first_lba;
+    rule.last_lba = last_lba;
+    rule.byte = byte;
+    return rule;
+}
+
+TEST(TornWrite, OfManySectorsEndsInTheFirstOneStruck) {
+    written_down disk;
+    fault_stack faults(disk);
+    faults.add(torn_write(511, 102, 103));
     std::vector<std::uint8_t> data(5 * sector_size, 7);
     EXPECT_TRUE(faults.perform({io_kind::write, 0, 100, 5, data}));
     ASSERT_EQ(disk.what.size(), 2U);
@@ -241,11 +246,7 @@ TEST(TornWrite, OfManySectorsEndsInTheFirstOneStruck) {
 TEST(TornWrite, OfZerosWithoutDataTearsAlike) {
     written_down disk;
     fault_stack faults(disk);
-    fault_rule rule;
-    rule.kind = fault_kind::tear;
-    rule.operation = io_kind::write;
-    rule.byte = 500;
-    faults.add(rule);
+    faults.add(torn_write(500));
     EXPECT_TRUE(faults.perform({io_kind::write, 0, 100, 5, {}}));
     ASSERT_EQ(disk.what.size(), 1U);
     std::vector<std::uint8_t> torn(sector_size, 0xEE);

@@ -2,6 +2,7 @@
 #include "enclosure/state_store.h"
 
 #include "tests/enclosure/array_host.h"
+#include "tests/enclosure/kept_copy.h"
 #include "tests/enclosure/kept_desk.h"
 #include "tests/enclosure/temporary_folder.h"
 
@@ -213,28 +214,16 @@ class KeptCopy : public testing::Test {
 protected:
     KeptCopy() {
         kept_desk life(folder_.path());
-        life.on.add_enclosure(usb_settings("box"));
-        life.on.add_disk("a", build_identify(label_of(size_a)));
-        life.on.add_disk("b", build_identify(label_of(size_a, "S-2")));
-        life.on.insert("box", 0, "a");
-        life.on.insert("box", 1, "b");
-        life.on.arrange("box", scenario::rebuild);
+        begin_a_copy(life, size_a, rate);
         for (std::uint64_t lba = 0; lba < area; ++lba) {
             EXPECT_TRUE(image(life, "a").write(lba, data_of("a", lba)));
         }
-        life.on.set_rate("box", rate * sector_size, 0s);
-        life.on.plug("box", 0s);
-        run(life, 3s);
+        life.run(3s);
         life.store.save_enclosure(life.on.enclosure("box"));
     }
 
     static disk_image& image(kept_desk& life, const std::string& name) {
         return life.on.disks().at(name)->image();
-    }
-
-    static void run(kept_desk& life, moment until) {
-        while (life.on.advance(until)) {
-        }
     }
 
     // The target's sectors that are not the source's.
@@ -256,7 +245,7 @@ protected:
 TEST_F(KeptCopy, GoesOnWhereItWas) {
     kept_desk life(folder_.path());
     ASSERT_TRUE(image(life, "b").write(10, sector_data{})); // copied already, not to be again
-    run(life, 1h);
+    life.run(1h);
     EXPECT_EQ(differences(life), std::vector<std::uint64_t>{10});
     EXPECT_FALSE(life.on.enclosure("box").bridge_chip().copy().running());
 }
@@ -270,14 +259,14 @@ TEST_F(KeptCopy, BeginsAnewAfterAPowerCut) {
     kept_desk life(folder_.path());
     EXPECT_EQ(life.on.enclosure("box").bridge_chip().copy().progress(),
               (copy_progress{0, area, 0}));
-    run(life, 1h);
+    life.run(1h);
     EXPECT_TRUE(differences(life).empty());
 }
 
 TEST_F(KeptCopy, OfTheOtherDirectionIsNotTakenForThisOne) {
     {
         kept_desk life(folder_.path());
-        run(life, 1h);
+        life.run(1h);
         life.store.save_enclosure(life.on.enclosure("box"));
         for (const std::string name : {"a", "b"}) {
             sector_data sector{};

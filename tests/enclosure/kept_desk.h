@@ -17,6 +17,12 @@ public:
         store.load(on, enclosure::moment{0});
     }
 
+    // Lets all of the time until then pass.
+    void run(enclosure::moment until) {
+        while (on.advance(until)) {
+        }
+    }
+
     std::vector<std::string> lines; // what was wrong with the kept state
     enclosure::state_store store;
     enclosure::desk on;

@@ -230,8 +230,7 @@ TEST(CopyWithAFault, TakesNoRoomForSectorsWithoutData) {
     life.on.add_fault("box", rule);
     life.on.set_rate("box", mirror_copy::unlimited, 0s);
     life.on.plug("box", 0s);
-    while (life.on.advance(0s)) {
-    }
+    life.run(0s);
     ASSERT_FALSE(life.on.enclosure("box").bridge_chip().copy().running());
     sector_data copied{};
     ASSERT_TRUE(life.on.disks().at("b")->image().read(77, copied));

@@ -135,8 +135,7 @@ TEST_F(StateStore, ACopyGoesOnWhereItWas) {
         life.on.arrange("box", scenario::rebuild);
         life.on.set_rate("box", 1000 * sector_size, 0s);
         life.on.plug("box", 0s);
-        while (life.on.advance(3s)) {
-        }
+        life.run(3s);
         life.store.save_enclosure(life.on.enclosure("box"));
     }
     kept_desk life(folder_.path());
@@ -153,8 +152,7 @@ TEST_F(StateStore, AFinishedCopyStaysFinished) {
         life.on.arrange("box", scenario::rebuild);
         life.on.set_rate("box", mirror_copy::unlimited, 0s);
         life.on.plug("box", 0s);
-        while (life.on.advance(0s)) {
-        }
+        life.run(0s);
     }
     kept_desk life(folder_.path());
     const mirror_copy& copy = life.on.enclosure("box").bridge_chip().copy();

@@ -1,5 +1,5 @@
 // A disk that a copy has not filled is no volume without its source, whatever happened meanwhile.
-#include "tests/enclosure/builders.h"
+#include "tests/enclosure/kept_copy.h"
 #include "tests/enclosure/kept_desk.h"
 #include "tests/enclosure/temporary_folder.h"
 #include "tests/enclosure/volume_host.h"
@@ -17,25 +17,13 @@ using namespace std::chrono_literals;
 constexpr std::uint64_t size = 10'000;
 constexpr std::uint64_t rate = 1'000; // sectors a second
 
-void run(kept_desk& life, moment until) {
-    while (life.on.advance(until)) {
-    }
-}
-
 // Three seconds of ten have been copied from "a" in bay 0 to "b" in bay 1.
 class UnfilledDisk : public testing::Test {
 protected:
     UnfilledDisk() {
         kept_desk life(folder_.path());
-        life.on.add_enclosure(usb_settings("box"));
-        life.on.add_disk("a", build_identify(label_of(size, "serial-a")));
-        life.on.add_disk("b", build_identify(label_of(size, "serial-b")));
-        life.on.insert("box", 0, "a");
-        life.on.insert("box", 1, "b");
-        life.on.arrange("box", scenario::rebuild);
-        life.on.set_rate("box", rate * sector_size, 0s);
-        life.on.plug("box", 0s);
-        run(life, 3s);
+        begin_a_copy(life, size, rate);
+        life.run(3s);
         life.store.save_enclosure(life.on.enclosure("box"));
     }
 
@@ -71,7 +59,7 @@ TEST_F(UnfilledDisk, IsNoVolumeAfterAPowerCut) {
     kept_desk life(folder_.path());
     life.on.pull("box", 0);
     life.on.power_cut("box", 0s);
-    run(life, 1h);
+    life.run(1h);
     expect_no_volume(life);
 }
 
@@ -79,10 +67,10 @@ TEST_F(UnfilledDisk, IsNoVolumeWhenItsSourceIsPulledDuringARestart) {
     kept_desk life(folder_.path());
     life.on.warm_boot("box", 0s);
     life.on.pull("box", 0);
-    run(life, 1h);
+    life.run(1h);
     expect_no_volume(life);
     life.on.warm_boot("box", 1h);
-    run(life, 2h);
+    life.run(2h);
     expect_no_volume(life);
 }
 
@@ -118,7 +106,7 @@ TEST_F(UnfilledDisk, IsNoVolumeWhenItWasAwayItself) {
     kept_desk life(folder_.path());
     life.on.pull("box", 1);
     life.on.warm_boot("box", 0s);
-    run(life, 1h);
+    life.run(1h);
     expect_a_degraded_volume(life);
     life.on.pull("box", 0);
     life.on.insert("box", 1, "b");
@@ -133,7 +121,7 @@ TEST_F(UnfilledDisk, IsNoVolumeAfterAHostHasWrittenItsRecordAnew) {
         record.stamp = stamp_of("20250505050505");
     });
     life.on.warm_boot("box", 0s);
-    run(life, 1h);
+    life.run(1h);
     expect_no_volume(life);
 }
 
@@ -151,16 +139,16 @@ TEST_F(UnfilledDisk, ServesAloneOnceItHasBeenFilled) {
     kept_desk life(folder_.path());
     life.on.pull("box", 0);
     life.on.warm_boot("box", 0s);
-    run(life, 1s);
+    life.run(1s);
     life.on.insert("box", 0, "a");
     life.on.warm_boot("box", 1s);
-    run(life, 2s);
-    run(life, 1h);
+    life.run(2s);
+    life.run(1h);
     ASSERT_FALSE(life.on.enclosure("box").bridge_chip().unfilled());
     life.on.pull("box", 0);
     expect_a_degraded_volume(life);
     life.on.warm_boot("box", 1h);
-    run(life, 2h);
+    life.run(2h);
     expect_a_degraded_volume(life);
 }
 
@@ -189,11 +177,12 @@ TEST_F(UnfilledDisk, LeavesItsSourceAVolume) {
     kept_desk life(folder_.path());
     life.on.pull("box", 1);
     life.on.power_cut("box", 0s);
-    run(life, 1h);
+    life.run(1h);
     expect_a_degraded_volume(life);
 }
 
 TEST_F(UnfilledDisk, IsUnknownToTheStateOfAnEarlierVersion) {
+    kept_desk(folder_.path()).on.unplug("box");
     const std::filesystem::path file = folder_.path() / "enclosures/box.json";
     std::ifstream stream(file);
     std::string state((std::istreambuf_iterator<char>(stream)), {});
@@ -201,9 +190,11 @@ TEST_F(UnfilledDisk, IsUnknownToTheStateOfAnEarlierVersion) {
     ASSERT_NE(from, std::string::npos) << state;
     state.erase(from, state.find('}', from) + 1 - from);
     std::ofstream(file) << state;
-    const kept_desk life(folder_.path());
+    kept_desk life(folder_.path());
     EXPECT_TRUE(life.lines.empty()) << life.lines.front();
-    EXPECT_TRUE(life.on.enclosures().contains("box"));
+    life.on.pull("box", 0);
+    life.on.plug("box", 0s);
+    expect_a_degraded_volume(life);
 }
 
 } // namespace

@@ -1,25 +1,15 @@
 // What a host reads and writes when the volume is a mirror, in every state of it.
-#include "tests/enclosure/volume_host.h"
+#include "tests/enclosure/mirror_fixture.h"
 
 #include <array>
 
 namespace enclosure {
 namespace {
 
-constexpr std::uint64_t sectors = 6000; // of either disk
-constexpr std::uint64_t record_at = sectors - 15;
-constexpr std::size_t last_of_stamp = 495; // byte of the record
-
-class VolumeMirror : public testing::Test {
+class VolumeMirror : public mirror_test {
 protected:
-    void start(scenario state) { host_.start(state, sectors, sectors); }
-
-    bytes record_of(int port) { return host_.on_disk(port, record_at, 1); }
-
     // Of all that the array may use.
     bytes content_of(int port) { return host_.on_disk(port, 0, sectors - 16); }
-
-    volume_host host_;
 };
 
 TEST_F(VolumeMirror, InOrderIsWrittenOnBothDisks) {
@@ -40,6 +30,17 @@ TEST_F(VolumeMirror, InOrderIsReadFromTheOtherDiskWhenOneFails) {
     host_.add_fault(fault_kind::fail, io_kind::read, 1, 108, 108);
     EXPECT_EQ(sense_of(host_.read(100, 9)), sense::read_failed);
     host_.expect_reads(100, sectors_from(1, 8));
+}
+
+TEST_F(VolumeMirror, WhoseDisksBothFailMakesTheWriteFailAndNobodyIsOut) {
+    start(scenario::raid1);
+    const std::array<bytes, ports> records{record_of(0), record_of(1)};
+    host_.add_fault(fault_kind::fail, io_kind::write, 0, 100, 100);
+    host_.add_fault(fault_kind::fail, io_kind::write, 1, 100, 100);
+    EXPECT_EQ(sense_of(host_.write(100, sectors_from(1, 1))), sense::write_failed);
+    EXPECT_EQ(host_.state(), volume_state::in_order);
+    EXPECT_EQ(record_of(0), records[0]);
+    EXPECT_EQ(record_of(1), records[1]);
 }
 
 class FailingMember : public VolumeMirror, public testing::WithParamInterface<int> {
@@ -88,17 +89,6 @@ TEST_P(FailingMember, OfAMirrorThatTheHostHasTakenApartMakesTheWriteFail) {
     host_.add_fault(fault_kind::fail, io_kind::write, failing(), 100, 100);
     EXPECT_EQ(sense_of(host_.write(100, sectors_from(1, 1))), sense::write_failed);
     EXPECT_EQ(record_of(other()), bytes(512));
-}
-
-TEST_P(FailingMember, WithTheOtherMakesTheWriteFailAndNobodyIsOut) {
-    start(scenario::raid1);
-    const std::array<bytes, ports> records{record_of(0), record_of(1)};
-    host_.add_fault(fault_kind::fail, io_kind::write, 0, 100, 100);
-    host_.add_fault(fault_kind::fail, io_kind::write, 1, 100, 100);
-    EXPECT_EQ(sense_of(host_.write(100, sectors_from(1, 1))), sense::write_failed);
-    EXPECT_EQ(host_.state(), volume_state::in_order);
-    EXPECT_EQ(record_of(0), records[0]);
-    EXPECT_EQ(record_of(1), records[1]);
 }
 
 TEST_P(FailingMember, PulledAndPutBackIsNotReadOrWritten) {

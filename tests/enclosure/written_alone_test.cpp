@@ -1,6 +1,6 @@
 // A half of a mirror that was written alone is the newer one, whatever the records say of a copy
 // that had ended before, and whatever a host writes into them.
-#include "tests/enclosure/volume_host.h"
+#include "tests/enclosure/mirror_fixture.h"
 
 #include "enclosure/vendor_commands.h"
 
@@ -10,20 +10,17 @@
 namespace enclosure {
 namespace {
 
-constexpr std::uint64_t sectors = 6000; // of either disk
-constexpr std::uint64_t record_at = sectors - 15;
-constexpr std::size_t flags = 4;           // byte of the record
-constexpr std::size_t stamp = 480;         // first byte
-constexpr std::size_t last_of_stamp = 495; // byte of the record
+constexpr std::size_t flags = 4;   // byte of the record
+constexpr std::size_t stamp = 480; // first byte
 constexpr std::uint8_t source_flag = 0x80;
 const bytes older = sectors_from(100, 1, 1);
 const bytes newer = sectors_from(100, 1, 2);
 
-class WrittenAlone : public testing::TestWithParam<int> {
+class WrittenAlone : public mirror_test, public testing::WithParamInterface<int> {
 protected:
     // A mirror whose copy from source() to target() has ended, with the source's mark in place.
     void end_a_copy() {
-        host_.start(scenario::rebuild, sectors, sectors);
+        start(scenario::rebuild);
         for (const int port : {0, 1}) {
             bytes record = record_of(port);
             record[flags] = port == source() ? source_flag : 0;
@@ -36,8 +33,6 @@ protected:
 
     int source() const { return GetParam(); }
     int target() const { return 1 - GetParam(); }
-
-    bytes record_of(int port) { return host_.on_disk(port, record_at, 1); }
 
     void host_writes(int port, const bytes& record) {
         const vendor_cdb cdb = encode({vendor_action::write_sector, static_cast<std::uint8_t>(port),
@@ -69,8 +64,6 @@ protected:
         EXPECT_FALSE(std::equal(records[0].begin() + stamp, records[0].begin() + stamp + 16,
                                 records[1].begin() + stamp));
     }
-
-    volume_host host_;
 };
 
 TEST_P(WrittenAlone, AfterASourceThatFailedSinceTheCopyIsNotOverwrittenByIt) {
