@@ -72,14 +72,10 @@ def the_target_is_pulled_and_noticed_before_the_confirmation():
 
 
 def during_create(pull, settled):
-    """Pulls while the first write of a create waits for its answer."""
     desk.begin("unconfigured")
-    enclosure("fault", "box", "delay", "write", "--port", "0", "--lba", "0", "--delay", "3000")
     before = [disk.digest(1, AREA - 1) for disk in (a, b)]
-    desk.ask_for_a_stripe()
-    desk.program.answer(L["all_data_lost"])
-    wait_for("the first write", lambda: a.read(0, 1) == bytes(512))
-    pull()
+    desk.program.choose_row(0)
+    desk.pull_during_first_write("confirmbutton", pull)
     check("said", desk.answer_all(settled), [L["raid_create_error"]])
     check("data beyond the first sectors", [disk.digest(1, AREA - 1) for disk in (a, b)], before)
     desk.end(restarted=False)

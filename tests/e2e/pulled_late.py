@@ -4,11 +4,6 @@ from kestrel import check, description, enclosure, enclosures, run, wait_for
 from pulls import AREA, Desk, L, a, b
 
 desk = Desk()
-DELAY = "3000"  # milliseconds that the first write takes
-
-
-def hold_first_write(port):
-    enclosure("fault", "box", "delay", "write", "--port", str(port), "--lba", "0", "--delay", DELAY)
 
 
 def area():
@@ -17,14 +12,9 @@ def area():
 
 
 def during_delete(pull, settled):
-    """Pulls while the first write of a delete waits for its answer."""
     desk.begin("raid0")
-    hold_first_write(0)
     before = area()
-    desk.ask("clearconfigbutton", "all_data_lost")
-    desk.program.answer(L["all_data_lost"])
-    wait_for("the first write", lambda: a.read(0, 1) == bytes(512))
-    pull()
+    desk.pull_during_first_write("clearconfigbutton", pull)
     said = desk.answer_all(settled)
     check("the error is told", L["raid_delete_error"] in said, True)
     check("data behind the first sectors", area(), before)
@@ -43,20 +33,12 @@ def the_cable_is_pulled_during_delete():
     during_delete(lambda: enclosure("unplug", "box"), desk.nothing_there)
 
 
-def begin_wipe():
-    """Disk 1 is being wiped: the first write waits for its answer."""
-    desk.begin("diverged", ["raid_info_conflict"])
-    hold_first_write(0)
-    desk.program.key("ctrl+1")
-    desk.ask("cleardisk0button", "all_data_lost")
-    desk.program.answer(L["all_data_lost"])
-    wait_for("the first write", lambda: a.read(0, 1) == bytes(512))
-
-
 def during_wipe(pull, settled, fails):
-    begin_wipe()
+    """Pulls while disk 1 is being wiped."""
+    desk.begin("diverged", ["raid_info_conflict"])
     before = area(), b.read(0, 64)
-    pull()
+    desk.program.key("ctrl+1")
+    desk.pull_during_first_write("cleardisk0button", pull)
     if fails:
         desk.program.answer(L["raid_info_delete_error"], 120)
         desk.press("refresh_button")  # a wipe that failed does not read again by itself

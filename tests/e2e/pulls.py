@@ -8,6 +8,7 @@ L = texts()
 SECTORS = 65536  # 32 MiB
 AREA = SECTORS - 16
 HANG = 5.0  # seconds
+DELAY = "4000"  # milliseconds that a held write takes; after 5000 it would count as unanswered
 a, b, c = (Disk(name) for name in "abc")
 
 
@@ -100,6 +101,15 @@ class Desk:
     def ask_for_a_stripe(self):
         self.program.choose_row(0)
         self.ask("confirmbutton", "all_data_lost")
+
+    def pull_during_first_write(self, button, pull):
+        """Begins a change and pulls while it writes disk 1's first sector; till then each write is held for a while."""
+        enclosure("fault", "box", "delay", "write", "--delay", DELAY)
+        self.ask(button, "all_data_lost")
+        self.program.answer(L["all_data_lost"])
+        wait_for("the first write", lambda: a.read(0, 1) == bytes(512))
+        pull()
+        enclosure("fault", "box", "clear")
 
     def press(self, button):
         """Presses a button as soon as it is enabled."""

@@ -17,7 +17,6 @@ protected:
     VolumeModel() {
         host_.start(GetParam(), size_a, size_b);
         expected_.resize(host_.capacity() * sector_size);
-        RecordProperty("seed", std::to_string(seed_));
     }
 
     std::uint64_t capacity() const { return expected_.size() / sector_size; }
@@ -69,12 +68,10 @@ protected:
 
     volume_host host_;
     bytes expected_;
-    const std::uint32_t seed_ = std::random_device{}();
-    std::mt19937_64 engine_{seed_};
+    std::mt19937_64 engine_{4711}; // the same work in every run
 };
 
 TEST_P(VolumeModel, HoldsWhatWasWrittenLast) {
-    SCOPED_TRACE("seed " + std::to_string(seed_));
     const std::array<bytes, ports> before = tails();
     for (int i = 0; i < 1500 && !HasFailure(); ++i) {
         write_some();
@@ -102,7 +99,6 @@ protected:
 };
 
 TEST_P(VolumeInterleaved, WritesAndPiecesOfTheCopyEndInTwoLikeMembers) {
-    SCOPED_TRACE("seed " + std::to_string(seed_));
     while (host_.copy().running() && !HasFailure()) {
         host_.copy_piece(below(300) + 1);
         write_some();
@@ -115,7 +111,6 @@ TEST_P(VolumeInterleaved, WritesAndPiecesOfTheCopyEndInTwoLikeMembers) {
 
 // Faults that pass: the copy is held up and thrown back, and comes to the same end.
 TEST_P(VolumeInterleaved, PassingFaultsOfTheTargetChangeNothingInTheEnd) {
-    SCOPED_TRACE("seed " + std::to_string(seed_));
     for (int i = 0; i < 300 && host_.copy().unfinished() && !HasFailure(); ++i) {
         const std::uint64_t bad = some_lba();
         host_.add_fault(fault_kind::fail, io_kind::write, 1, bad, bad + below(50));
