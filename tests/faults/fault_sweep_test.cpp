@@ -111,8 +111,7 @@ protected:
         library.on_nth("", nth, [this, &kind] { strike(kind); });
         library.replace_nth("", nth, [this, &kind, nth](const library_call& call, auto& all) {
             struck_call = call.name;
-            carries_bytes =
-                call.record || call.name.starts_with("get") || call.name.starts_with("krGet");
+            carries_bytes = call.carries_bytes();
             if (kind.lies()) {
                 return lie(kind, nth, call, all, enclosure_before);
             }

@@ -33,10 +33,12 @@ protected:
 
     void plan(const fault& kind, int nth) {
         struck.clear();
+        carries_bytes = false;
         library.forget_plans();
         library.with_bridges([this](memory_enclosure& all) { before = all; });
         library.replace_nth("", nth, [this, &kind, nth](const library_call& call, auto& all) {
             struck = call.name;
+            carries_bytes = call.carries_bytes();
             if (kind.departs()) {
                 all.bridges.clear();
             }
@@ -100,11 +102,17 @@ protected:
         }
     }
 
+    // A lie is none in a call that carries no bytes.
+    bool happened_to(const fault& kind) const {
+        return !struck.empty() && (carries_bytes || !kind.lies());
+    }
+
     // Of the 64 sectors that are wiped one after the other a few stand for all.
     static int after(int nth) { return nth < 16 || nth > 250 ? nth + 1 : nth + 17; }
 
     memory_enclosure before;
-    std::string struck; // the call, or nothing
+    std::string struck;         // the call, or nothing
+    bool carries_bytes = false; // that call
     lines happened;
 };
 
@@ -133,7 +141,7 @@ TEST_P(ChangeByButton, IsToldAsItEndedAndNeverWithoutASafetyCopy) {
         struck = "not yet";
         for (int nth = 1; !struck.empty() && !HasFailure(); nth = after(nth)) {
             expect_bears(kind, nth);
-            ++cases;
+            cases += happened_to(kind) ? 1 : 0;
         }
     }
     std::cout << "\n" << GetParam().name << ": " << cases << " cases\n";

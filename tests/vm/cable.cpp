@@ -38,16 +38,14 @@ public:
         }
     }
 
-    // Until the device with that serial number has come and gone.
+    // Until the device with that serial number has come and gone. Udev keeps the number for as
+    // long as it knows of the device, the kernel no longer than the device is there.
     void await_departure(std::string_view serial) {
-        std::optional<std::string> path;
         for (;;) {
             const auto event = next();
+            const char* const number = udev_device_get_property_value(&*event, "ID_SERIAL_SHORT");
             const std::string_view action = udev_device_get_action(&*event);
-            const char* const number = udev_device_get_sysattr_value(&*event, "serial");
-            if (action == "add" && number != nullptr && number == serial) {
-                path = udev_device_get_syspath(&*event);
-            } else if (action == "remove" && path == udev_device_get_syspath(&*event)) {
+            if (action == "remove" && number != nullptr && number == serial) {
                 return;
             }
         }
