@@ -89,23 +89,34 @@ photograph() {
     read -r number <"$work/display"
     export DISPLAY=:$number
     openbox >/dev/null 2>&1 &
-    chroot --userspec=tester "$root" /usr/bin/env -i PATH=/usr/bin:/bin LANG=C.UTF-8 \
+    timeout 300 chroot --userspec=tester "$root" /usr/bin/env -i PATH=/usr/bin:/bin LANG=C.UTF-8 \
         HOME=/home/tester DISPLAY="$DISPLAY" dbus-run-session -- sh -c "$2" >"$work/out" 2>&1 &
     local session=$!
-    look_and_close "$1" "$work/out" || { status=1; kill $session; }
+    look_and_close "$1" "$work/out" || { status=1; end_tester; }
     wait $session || status=1
     kill $server
     # The emulator writes down its state when the bus has gone. What has ended but is not reaped yet
     # does not count.
-    await "! pgrep --runstates D,R,S,T -u $(inside id -u tester) >/dev/null" || status=1
+    await "! pgrep --runstates D,R,S,T -u $(inside id -u tester) >/dev/null" ||
+        { status=1; end_tester; }
     cat "$work/out"
     rm -rf "$work"
     return $status
 }
 
+# end_tester: ends what the clean system's user runs, in this namespace of processes.
+end_tester() {
+    local pids
+    mapfile -t pids < <(pgrep -u "$(inside id -u tester)")
+    [ ${#pids[@]} -eq 0 ] || kill "${pids[@]}"
+}
+
 # await TEXT: waits until the shell command TEXT succeeds, a minute at most.
 await() {
-    timeout 60 sh -c "until $1; do sleep 0.1; done" || { echo "in vain for a minute: $1"; return 1; }
+    timeout 60 sh -c "until $1; do sleep 0.1; done" || {
+        echo "in vain for a minute: $1" >&2
+        return 1
+    }
 }
 
 # look_and_close FILE LOG: a picture of the program's window, when it listens and two looks at it are
@@ -118,7 +129,7 @@ look_and_close() {
         import -window "$window" "$1" || return 1
         now=$(identify -format '%#' "$1")
         if [ "$now" = "$last" ]; then
-            xdotool windowactivate --sync "$window" key ctrl+q
+            timeout 60 xdotool windowactivate --sync "$window" key ctrl+q
             return
         fi
         last=$now

@@ -3,7 +3,9 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <random>
+#include <string>
 #include <vector>
 
 #include "enclosure/in_process_bench.h"
@@ -61,7 +63,7 @@ private:
     enclosure::in_process_bench bench_;
 };
 
-// The largest image below TMPDIR: that of the source, since both have the same size.
+// Of the source; nothing else below TMPDIR has its name.
 fs::path image() {
     for (const auto& entry : fs::recursive_directory_iterator(fs::temp_directory_path())) {
         if (entry.path().filename() == "a.img") {
@@ -71,15 +73,16 @@ fs::path image() {
     return {};
 }
 
-double cp(const std::string& sparse) {
+// Seconds; nothing when it failed.
+std::optional<double> cp(const std::string& sparse) {
     const fs::path copied = fs::temp_directory_path() / "copied.img";
     const std::string line =
-        "cp --sparse=" + sparse + " " + image().string() + " " + copied.string();
+        "cp --sparse=" + sparse + " '" + image().string() + "' '" + copied.string() + "'";
     const auto began = std::chrono::steady_clock::now();
     const int status = std::system(line.c_str()); // NOLINT: fixed words of our own
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - began;
     fs::remove(copied);
-    return status == 0 ? took.count() : 0;
+    return status == 0 ? std::optional(took.count()) : std::nullopt;
 }
 
 // Both by turns, on the same mirror.
@@ -88,7 +91,12 @@ void copy_of(benchmark::State& state, std::uint64_t sectors, std::uint64_t fille
     mirror_to_copy mirror(sectors, filled);
     double theirs = 0;
     while (state.KeepRunning()) {
-        theirs += cp(sparse);
+        const std::optional<double> took = cp(sparse);
+        if (!took) {
+            state.SkipWithError("cp failed");
+            return;
+        }
+        theirs += *took;
         state.SetIterationTime(mirror.copy());
     }
     state.counters["cp_s"] = theirs / static_cast<double>(state.iterations());

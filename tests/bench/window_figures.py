@@ -4,6 +4,7 @@ display and a session bus of its own (tests/e2e/desktop)."""
 
 import json
 import os
+import select
 import subprocess
 import sys
 import time
@@ -16,6 +17,7 @@ STARTS = int(sys.argv[3]) if len(sys.argv) > 3 else 15
 SETTLED = 2.0  # seconds after which memory is measured
 IDLE = 20.0  # seconds
 SIZE = (800, 630)
+PATIENCE = 60.0  # seconds for a first picture
 
 screen = display.Display()
 root = screen.screen().root
@@ -49,11 +51,24 @@ def proportional_memory(pid):
         return next(int(line.split()[1]) for line in file if line.startswith("Pss:")) / 1024
 
 
-def wait_until_painted():
+def next_event(process, deadline):
+    """The next event of the display; without one the process must live, and the deadline lie ahead."""
+    while not screen.pending_events():
+        if process.poll() is not None:
+            sys.exit(f"window_figures.py: ended with {process.returncode} before its first picture")
+        if time.monotonic() > deadline:
+            end(process)
+            sys.exit(f"window_figures.py: no picture in {PATIENCE:.0f} s")
+        select.select([screen], [], [], 1.0)
+    return screen.next_event()
+
+
+def wait_until_painted(process):
     """Until something has been drawn into a mapped window of the right size."""
+    deadline = time.monotonic() + PATIENCE
     watched = set()
     while True:
-        event = screen.next_event()
+        event = next_event(process, deadline)
         if event.type == X.MapNotify:
             shape = event.window.get_geometry()
             if (shape.width, shape.height) == SIZE:
@@ -80,7 +95,7 @@ def end(process):
 def one_start(name):
     began = time.perf_counter()
     process = start(name)
-    wait_until_painted()
+    wait_until_painted(process)
     painted = time.perf_counter() - began
     used = processor_time(process.pid)
     time.sleep(SETTLED)
@@ -109,7 +124,7 @@ def idle_figures():
     figures = {"seconds": IDLE}
     for name, label in (("reference_window", "reference"), ("kestrelraid-emulated", "no_mirror")):
         process = start(name)
-        wait_until_painted()
+        wait_until_painted(process)
         time.sleep(3 * SETTLED)
         figures[label] = idle(process)
         end(process)
@@ -120,7 +135,7 @@ def idle_figures():
     enclosure("scenario", "box", "raid1")
     enclosure("plug", "box")
     process = start("kestrelraid-emulated")
-    wait_until_painted()
+    wait_until_painted(process)
     time.sleep(6 * SETTLED)  # the reading's designed pauses
     figures["mirror"] = idle(process)
     end(process)

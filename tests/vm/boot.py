@@ -12,8 +12,8 @@ LIMIT = 280  # seconds
 
 
 def command(folder, tests):
-    return ["timeout", str(LIMIT), "qemu-system-x86_64", "-nodefaults", "-no-user-config", "-display", "none",
-            "-no-reboot", "-machine", "q35,accel=tcg", "-cpu", "qemu64,+rdrand", "-smp", "1", "-m", "768",
+    return ["timeout", "--foreground", str(LIMIT), "qemu-system-x86_64", "-nodefaults", "-no-user-config",
+            "-display", "none", "-no-reboot", "-machine", "q35,accel=tcg", "-cpu", "qemu64,+rdrand", "-smp", "1", "-m", "768",
             "-kernel", f"{folder}/kernel", "-initrd", f"{folder}/initrd", "-serial", "stdio",
             "-append", "console=ttyS0 quiet loglevel=3 panic=-1 mitigations=off no_timer_check "
                        f"random.trust_cpu=on kestrel_filter={tests}"]
@@ -45,8 +45,13 @@ def main(folder, *filters):
     machines = [Machine(folder, tests) for tests in filters]
     for machine in machines:
         machine.start()
-    for machine in machines:
-        machine.join()
+    try:
+        for machine in machines:
+            machine.join()
+    except KeyboardInterrupt:
+        for machine in machines:
+            machine.console.terminate()
+        return 130
     for machine in machines:
         machine.passed = machine.passed and machine.count > 0
         print(f"{machine.tests} {'passed' if machine.passed else 'FAILED'}, {machine.count} tests")
