@@ -6,6 +6,7 @@
 #include "model/krtool.h"
 #include "model/rescan.h"
 #include "model/window.h"
+#include "tests/support/selected_chip.h"
 
 namespace {
 
@@ -109,18 +110,10 @@ void user::step() {
 
 void user::select() {
     const gate_scope work(j.gate);
-    if (krchip* chip = j.selected()) {
-        chip->stop_monitors();
+    if (!j.chips.empty()) {
+        select_enclosure(j.chips[random_() % j.chips.size()].identity);
+        ctrller->update_raid_information();
     }
-    if (j.chips.empty()) {
-        return;
-    }
-    {
-        const lock_scope lock(j.records);
-        j.current = j.chips[random_() % j.chips.size()].identity;
-    }
-    j.selected()->select_chip();
-    ctrller->update_raid_information();
 }
 
 void user::change() {

@@ -25,6 +25,7 @@
 #include "tests/storm/journal_library.h"
 #include "tests/storm/steps.h"
 #include "tests/storm/surroundings.h"
+#include "tests/support/selected_chip.h"
 
 namespace {
 
@@ -131,16 +132,6 @@ void storm(std::uint64_t seed, int steps, figure_log& log) {
                 at_window.changes(), threads.started());
 }
 
-// Ends the monitors, those included that a timer which is just reporting still starts.
-void calm_down() {
-    do {
-        const gate_scope work(j.gate);
-        if (krchip* chip = j.selected()) {
-            chip->stop_monitors();
-        }
-    } while (threads.running() > 0);
-}
-
 bool check(const char* what, bool holds) {
     if (!holds) {
         std::printf("NOT SO: %s\n", what);
@@ -151,9 +142,9 @@ bool check(const char* what, bool holds) {
 int ride_out(std::uint64_t seed, int steps) {
     figure_log log;
     storm(seed, steps, log);
-    calm_down();
+    end_monitors(threads);
     DeviceAdded(nullptr, 0);
-    calm_down();
+    end_monitors(threads);
     std::printf("%d steps, seed %llu, %d bridges gone before they were opened\n", steps,
                 static_cast<unsigned long long>(seed), failed_opens.load());
     const bool listed = check("every bridge is listed", j.chips.size() == bench.bridges().size());

@@ -15,6 +15,7 @@
 #include "model/system_services.h"
 #include "model/wake_point.h"
 #include "tests/support/fixture.h"
+#include "tests/support/selected_chip.h"
 
 namespace {
 
@@ -72,28 +73,9 @@ protected:
         crowd.clear();
     }
 
-    // Ends the monitors, those included that a timer which is just reporting still starts.
-    void calm_down() {
-        do {
-            const gate_scope work(j.gate);
-            if (krchip* chip = j.selected()) {
-                chip->stop_monitors();
-            }
-        } while (threads.running() > 0);
-    }
-
     static void select(std::int32_t location) {
         const gate_scope work(j.gate);
-        if (krchip* chip = j.selected()) {
-            chip->stop_monitors();
-        }
-        {
-            const lock_scope lock(j.records);
-            j.current = usb_identity(location);
-        }
-        if (krchip* chip = j.selected()) {
-            chip->select_chip();
-        }
+        select_enclosure(usb_identity(location));
         ctrller->update_raid_information();
     }
 
@@ -119,7 +101,7 @@ TEST_F(RescanStorm, OfArrivalsDeparturesAndRefreshesEndsWithBothBridgesListed) {
     join_in(expect_whole_copy);
     let_loose();
     await_crowd();
-    calm_down();
+    end_monitors(threads);
     EXPECT_EQ(j.chips.size(), 2U);
     EXPECT_EQ(j.controller_map.size(), 2U);
 }
@@ -134,7 +116,7 @@ TEST_F(RescanStorm, WithSelectionsAndMonitorsEnds) {
     join_in([] { start_wanted_poller(j.current_place()); });
     let_loose();
     await_crowd();
-    calm_down();
+    end_monitors(threads);
     EXPECT_EQ(j.chips.size(), 2U);
 }
 
@@ -150,7 +132,7 @@ TEST_F(RescanStorm, WithFinishingRebuildsNeverWritesToTheOtherBridge) {
     join_in([] { select(2); });
     let_loose();
     await_crowd();
-    calm_down();
+    end_monitors(threads);
     EXPECT_EQ(hex_dump(library.sector(0x12, 0, 1999)), hex_dump(before));
 }
 
@@ -167,7 +149,7 @@ TEST_F(RescanStorm, WithBridgesComingAndGoingEnds) {
     join_in(expect_whole_copy);
     let_loose();
     await_crowd();
-    calm_down();
+    end_monitors(threads);
     EXPECT_EQ(j.chips.size(), 2U);
 }
 
@@ -193,6 +175,6 @@ TEST_F(RescanStorm, WithOneSwapReportAfterAnotherEnds) {
         }
     }
     await_crowd();
-    calm_down();
+    end_monitors(threads);
     EXPECT_EQ(j.chips.size(), 2U);
 }

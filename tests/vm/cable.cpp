@@ -38,14 +38,17 @@ public:
         }
     }
 
-    // Until the device with that serial number has come and gone. Udev keeps the number for as
-    // long as it knows of the device, the kernel no longer than the device is there.
+    // Until the device with that serial number has come and gone. The number is the event's own:
+    // by the time it is read the device may have gone.
     void await_departure(std::string_view serial) {
+        std::optional<std::string> path;
         for (;;) {
             const auto event = next();
-            const char* const number = udev_device_get_property_value(&*event, "ID_SERIAL_SHORT");
             const std::string_view action = udev_device_get_action(&*event);
-            if (action == "remove" && number != nullptr && number == serial) {
+            const char* const number = udev_device_get_property_value(&*event, "ID_SERIAL_SHORT");
+            if (action == "add" && number != nullptr && number == serial) {
+                path = udev_device_get_syspath(&*event);
+            } else if (action == "remove" && path == udev_device_get_syspath(&*event)) {
                 return;
             }
         }
@@ -88,7 +91,7 @@ void cable::keep_attached() {
 // Without the export the next attachment fails, which ends the keeper.
 void cable::pull() {
     if (keeper_.joinable()) {
-        run("krenclosure unexport " + enclosure_);
+        try_run("krenclosure unexport " + enclosure_);
         keeper_.join();
     }
 }

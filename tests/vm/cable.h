@@ -17,6 +17,7 @@ public:
 
     // Returns when the kernel has taken the attachment; its disk comes later.
     void plug();
+    // Returns when it is not attached any more and stays so.
     void pull();
 
 private:

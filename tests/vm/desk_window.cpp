@@ -4,7 +4,7 @@
 #include "model/monitors.h"
 #include "model/rescan.h"
 
-#include "tests/vm/program.h"
+#include "tests/support/selected_chip.h"
 
 #include <chrono>
 #include <cstdio>
@@ -46,7 +46,8 @@ void desk_window::update_raid_information() {
 void desk_window::select_first_controller() {
     const gate_scope gate(j.gate);
     if (!j.controller_map.empty()) {
-        select_chip_of(j.chips[static_cast<std::size_t>(j.controller_map.front().second)].identity);
+        select_enclosure(
+            j.chips[static_cast<std::size_t>(j.controller_map.front().second)].identity);
     }
     update_raid_information();
 }

@@ -3,6 +3,11 @@
 #include "tests/vm/program.h"
 #include "tests/vm/shell.h"
 
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <stdexcept>
+
 real_enclosure::real_enclosure(std::string name, const std::string& size)
     : name_(std::move(name)), usb_(name_, name_) {
     run("krenclosure new " + name_ + " --serial " + name_);
@@ -15,7 +20,11 @@ real_enclosure::real_enclosure(std::string name, const std::string& size)
 
 real_enclosure::~real_enclosure() {
     usb_.pull();
-    the_window().await(name_ + ": is not there any more", [this] { return !chip_with(name_); });
+    try {
+        the_window().await(name_ + ": is not there any more", [this] { return !chip_with(name_); });
+    } catch (const std::runtime_error& trouble) {
+        ADD_FAILURE() << trouble.what();
+    }
     try_run("krenclosure remove " + name_);
     for (const std::string& disk : disks_) {
         try_run("krenclosure remove " + disk);
@@ -37,4 +46,14 @@ void real_enclosure::make_disk(const std::string& disk, const std::string& size)
 
 void real_enclosure::set_rate(int rate) {
     run("krenclosure rate " + name_ + " " + std::to_string(rate));
+}
+
+bool real_enclosure::copies() const {
+    const auto told = nlohmann::json::parse(run("krenclosure list --json"));
+    for (const auto& one : told.at("enclosures")) {
+        if (one.at("name") == name_) {
+            return one.at("array").at("state") == "copying";
+        }
+    }
+    return false;
 }

@@ -7,8 +7,7 @@
 #include <vector>
 
 // An enclosure with two disks, NAME-a in bay 0 and NAME-b in bay 1, and its cable. Its USB serial
-// number is its name. It goes with the object, which
-// waits until the program has seen that.
+// number is its name. It goes with the object, which waits until the program has seen that.
 class real_enclosure {
 public:
     real_enclosure(std::string name, const std::string& size);
@@ -25,6 +24,8 @@ public:
 
     // Megabytes per second of its copies.
     void set_rate(int rate);
+    // Whether one is under way, by the enclosure's own word.
+    bool copies() const;
 
 private:
     std::string name_;

@@ -48,6 +48,50 @@ protected:
         }));
     }
 
+    void lose_a_disk_in_use() {
+        const mounted now(volume_);
+        files_.add(20, file_size);
+        mirror_.pull(1);
+        await("has lost a disk", [](const krchip& chip) {
+            return chip.disks[1].present == 0 && chip.raid_valid == 0;
+        });
+        files_.add(10, file_size);
+        EXPECT_THAT(files_.differing(), IsEmpty());
+    }
+
+    void copy_onto_a_fresh_disk_in_use() {
+        mirror_.make_disk("fresh", "64MB");
+        mirror_.insert(1, "fresh");
+        mirror_.set_rate(4);
+        await("has a fresh disk", [](const krchip& chip) {
+            return chip.disks[1].present != 0 && chip.rebuild_possible != 0;
+        });
+        rebuild_onto_the_second();
+        {
+            const mounted now(volume_);
+            files_.add(10, file_size);
+            EXPECT_TRUE(mirror_.copies()) << "written when the copy was over";
+        }
+        the_window().await("the copy has ended", [] {
+            return testing::Value(the_window().messages(), testing::Contains("rebuild_finished"));
+        });
+    }
+
+    void change_the_cable() {
+        mirror_.usb().pull();
+        the_window().await("the cable is out", [this] { return !chip_with(mirror_.name()); });
+        mirror_.usb().plug();
+        volume_ = block_device_of(await("is back", [](const krchip& chip) {
+            return chip.raid_valid != 0 && chip.rebuild_pending == 0;
+        }));
+    }
+
+    void run_on_the_copy_alone() {
+        select(mirror_.name());
+        mirror_.pull(0);
+        await("runs on the copy", [](const krchip& chip) { return chip.disks[0].present == 0; });
+    }
+
     void expect_every_file() {
         const mounted now(volume_, true);
         EXPECT_THAT(files_.differing(), IsEmpty());
@@ -59,51 +103,14 @@ protected:
     std::string volume_;
 };
 
-bool is_whole(const krchip& chip) {
-    return chip.raid_valid != 0 && chip.rebuild_pending == 0;
-}
-
 TEST_F(MirrorLife, KeepsEveryFileThroughALostDiskARebuildAndAnotherCable) {
     create();
     make_file_system(volume_);
-    {
-        const mounted now(volume_);
-        files_.add(20, file_size);
-
-        // A disk is lost in use, and the mirror serves on.
-        mirror_.pull(1);
-        await("has lost a disk", [](const krchip& chip) {
-            return chip.disks[1].present == 0 && chip.raid_valid == 0;
-        });
-        files_.add(10, file_size);
-        EXPECT_THAT(files_.differing(), IsEmpty());
-    }
-
-    mirror_.make_disk("fresh", "64MB");
-    mirror_.insert(1, "fresh");
-    mirror_.set_rate(4);
-    await("has a fresh disk", [](const krchip& chip) {
-        return chip.disks[1].present != 0 && chip.rebuild_possible != 0;
-    });
-    rebuild_onto_the_second();
-    {
-        const mounted now(volume_);
-        files_.add(10, file_size); // while the copy runs
-    }
-    the_window().await("the copy has ended", [] {
-        return testing::Value(the_window().messages(), testing::Contains("rebuild_finished"));
-    });
-
-    mirror_.usb().pull();
-    the_window().await("the cable is out", [this] { return !chip_with(mirror_.name()); });
-    mirror_.usb().plug();
-    volume_ = block_device_of(await("is back", is_whole));
+    lose_a_disk_in_use();
+    copy_onto_a_fresh_disk_in_use();
+    change_the_cable();
     expect_every_file();
-
-    // The copy alone holds all of it.
-    select(mirror_.name());
-    mirror_.pull(0);
-    await("runs on the copy", [](const krchip& chip) { return chip.disks[0].present == 0; });
+    run_on_the_copy_alone();
     expect_every_file();
     EXPECT_EQ(files_.count(), 40U);
     EXPECT_TRUE(chip_with(other_.name()).has_value());

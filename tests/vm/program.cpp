@@ -10,6 +10,7 @@
 #include "model/system_services.h"
 
 #include "tests/support/recording_tree.h"
+#include "tests/support/selected_chip.h"
 #include "tests/support/table_lookup.h"
 
 #include <memory>
@@ -92,17 +93,6 @@ krchip await_chip(const std::string& what, const std::string& serial,
     return *found;
 }
 
-void select_chip_of(const controller_t& identity) {
-    if (krchip* const former = j.selected(); former != nullptr) {
-        former->stop_monitors();
-    }
-    {
-        const lock_scope lock(j.records);
-        j.current = identity;
-    }
-    j.selected()->select_chip();
-}
-
 void select(const std::string& serial) {
     {
         const gate_scope gate(j.gate);
@@ -111,7 +101,7 @@ void select(const std::string& serial) {
             throw std::runtime_error("no enclosure " + serial);
         }
         if (!(wanted->identity == j.current)) {
-            select_chip_of(wanted->identity);
+            select_enclosure(wanted->identity);
         }
     }
     desk.update_raid_information();

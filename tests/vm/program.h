@@ -25,6 +25,3 @@ krchip await_chip(const std::string& what, const std::string& serial,
 // As the user does: selects the enclosure, and changes its array.
 void select(const std::string& serial);
 bool change(const std::string& serial, const std::function<bool(krchip& chip)>& operation);
-
-// With the gate held.
-void select_chip_of(const controller_t& identity);

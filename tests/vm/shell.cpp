@@ -14,7 +14,7 @@ struct ended {
 ended carry_out(const std::string& line) {
     std::FILE* const pipe = ::popen(("exec 2>&1; " + line).c_str(), "re");
     if (pipe == nullptr) {
-        throw std::runtime_error("cannot start: " + line);
+        return {-1, "cannot be started"};
     }
     std::string printed;
     std::array<char, 4096> piece{};
