@@ -1,6 +1,7 @@
 // An exported enclosure, from the command to the last byte on the wire.
 #include "tests/enclosure/command_line.h"
 #include "tests/enclosure/host_process.h"
+#include "tests/enclosure/loopback.h"
 #include "tests/enclosure/usbip_client.h"
 
 #include "enclosure/dbus_transport.h"
@@ -146,9 +147,7 @@ TEST_F(ExportCommand, WhatCannotBeDoneIsSaidInOneLine) {
 
 TEST_F(ExportCommand, APortInUseIsNamed) {
     const enclosure::file_handle other(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    sockaddr_in address = loopback(0);
     socklen_t size = sizeof address;
     ASSERT_EQ(::bind(other.get(), reinterpret_cast<sockaddr*>(&address), size), 0);
     ASSERT_EQ(::listen(other.get(), 1), 0);

@@ -2,9 +2,10 @@
 
 #include "enclosure/file_handle.h"
 
+#include "tests/enclosure/loopback.h"
+
 #include <gtest/gtest.h>
 
-#include <arpa/inet.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -14,14 +15,6 @@
 
 namespace enclosure {
 namespace {
-
-sockaddr_in local_port(std::uint16_t port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    return address;
-}
 
 constexpr const char* table =
     "  sl  local_address rem_address   st tx_queue rx_queue tr tm->when retrnsmt   uid  timeout "
@@ -47,7 +40,7 @@ std::string native_table() {
 
 std::optional<uid_t> owner_of(std::uint16_t client_port) {
     std::istringstream text(native_table());
-    return owner_in(text, local_port(client_port), local_port(3240));
+    return owner_in(text, loopback(client_port), loopback(3240));
 }
 
 TEST(PeerOwner, IsFoundByBothAddresses) {
@@ -66,7 +59,7 @@ TEST(PeerOwner, IsNobodyForOtherConnections) {
 
 TEST(PeerOwner, OfAConnectionOfOursIsUs) {
     const file_handle listener(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    sockaddr_in own = local_port(0);
+    sockaddr_in own = loopback(0);
     socklen_t size = sizeof own;
     ASSERT_EQ(::bind(listener.get(), reinterpret_cast<sockaddr*>(&own), size), 0);
     ASSERT_EQ(::listen(listener.get(), 1), 0);

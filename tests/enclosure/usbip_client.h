@@ -3,9 +3,9 @@
 
 #include "enclosure/file_handle.h"
 
+#include "tests/enclosure/loopback.h"
 #include "tests/enclosure/usb_builders.h"
 
-#include <netinet/in.h>
 #include <poll.h>
 #include <sys/socket.h>
 
@@ -25,11 +25,9 @@ public:
     explicit usbip_client(
         std::uint16_t port, waiting wait = [](pollfd& one) { ::poll(&one, 1, client_patience); })
         : wait_(std::move(wait)), socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-        sockaddr_in there{};
-        there.sin_family = AF_INET;
-        there.sin_port = htons(port);
-        there.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        if (::connect(socket_.get(), reinterpret_cast<sockaddr*>(&there), sizeof there) != 0) {
+        const sockaddr_in there = loopback(port);
+        if (::connect(socket_.get(), reinterpret_cast<const sockaddr*>(&there), sizeof there) !=
+            0) {
             throw std::runtime_error("nobody listens");
         }
     }

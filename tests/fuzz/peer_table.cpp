@@ -1,25 +1,12 @@
 // The kernel's table of connections, from which the service learns who is at the other end.
 #include "enclosure/peer_owner.h"
 
+#include "tests/enclosure/loopback.h"
 #include "tests/fuzz/byte_source.h"
 #include "tests/fuzz/check.h"
 #include "tests/fuzz/target.h"
 
-#include <arpa/inet.h>
-
 #include <sstream>
-
-namespace {
-
-sockaddr_in local_address(std::uint16_t port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(port);
-    return address;
-}
-
-} // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     constexpr std::uint16_t peer_port = 0xABCD;
@@ -31,7 +18,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
                              "00000000  1234        0 5678 1\n";
     const auto ask = [](const std::string& text) {
         std::istringstream stream(text);
-        return enclosure::owner_in(stream, local_address(peer_port), local_address(own_port));
+        return enclosure::owner_in(stream, loopback(peer_port), loopback(own_port));
     };
     const bool is_named = table.find(peer_text) != std::string::npos;
     require(is_named || !ask(table), "nobody owns a connection that is not in the table");
