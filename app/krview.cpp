@@ -25,8 +25,9 @@ QImage premultiplied(QImage image) {
     }
     for (int y = 0; y < image.height(); ++y) {
         auto* pixels = reinterpret_cast<QRgb*>(image.scanLine(y));
-        std::transform(pixels, pixels + image.width(), pixels,
-                       [](QRgb pixel) { return qPremultiply(pixel); });
+        std::transform(pixels, pixels + image.width(), pixels, [](QRgb pixel) {
+            return qAlpha(pixel) == 255 ? pixel : qPremultiply(pixel);
+        });
     }
     image.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
     return image;
