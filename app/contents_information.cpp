@@ -10,6 +10,7 @@
 #include "app/controller.h"
 #include "app/placing.h"
 #include "app/spoken_parts.h"
+#include "app/styling.h"
 #include "app/text_field.h"
 #include "app/titled_box.h"
 #include "app/window_contents.h"
@@ -98,6 +99,7 @@ void build_devices(controller& window, QWidget* page) {
     window.extras->warmbootbutton =
         make<QPushButton>(page, "warmbootbutton", QRect(356, 310, 400, 32));
     auto* tree = make<QTreeView>(page, "tree", QRect(140, 348, 624, 246));
+    set_sheet(tree, "tree");
     tree->setHeaderHidden(true);
     tree->setIndentation(24);
     tree->setUniformRowHeights(true);

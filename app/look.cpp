@@ -1,16 +1,16 @@
 #include "app/look.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QFont>
 #include <QPalette>
+#include <QToolTip>
 
 #include "app/focus_ring.h"
 #include "app/lumen_style.h"
+#include "app/text_look.h"
 
 namespace {
 
-// What the style sheet does not reach, such as placeholders and disabled icons.
 QPalette dark_palette() {
     QPalette palette;
     palette.setColor(QPalette::Window, QColor(0x1b, 0x23, 0x2d));
@@ -23,6 +23,8 @@ QPalette dark_palette() {
         palette.setColor(QPalette::Disabled, role, QColor(0x8f, 0x9e, 0xac));
     }
     palette.setColor(QPalette::PlaceholderText, QColor(0x8f, 0x9e, 0xac));
+    palette.setColor(QPalette::ToolTipBase, QColor(0x2d, 0x3a, 0x47));
+    palette.setColor(QPalette::ToolTipText, QColor(0xe9, 0xef, 0xf5));
     return palette;
 }
 
@@ -38,14 +40,6 @@ QString eastern_family(const QString& language) {
                                               : QStringLiteral("Noto Sans CJK SC");
 }
 
-// Their signs need a little more than small Latin letters do.
-QString eastern_rules(const QString& language) {
-    const QStringList eastern = {QStringLiteral("ja"), QStringLiteral("ko"),
-                                 QStringLiteral("zh_CN"), QStringLiteral("zh_TW")};
-    return eastern.contains(language) ? QStringLiteral("QLabel[role=\"tag\"] { font-size: 12px; }")
-                                      : QString();
-}
-
 QFont text_font(const QString& language) {
     QFont font;
     font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans"),
@@ -59,13 +53,14 @@ QFont text_font(const QString& language) {
 void apply_look(QApplication& application) {
     QApplication::setStyle(make_style());
     QApplication::setPalette(dark_palette());
+    QToolTip::setPalette(dark_palette());
     new focus_display(&application);
 }
 
-void apply_language(QApplication& application, const QString& language) {
-    QApplication::setFont(text_font(language));
-    QFile sheet(QStringLiteral(":/lumen.qss"));
-    if (sheet.open(QIODevice::ReadOnly)) {
-        application.setStyleSheet(QString::fromUtf8(sheet.readAll()) + eastern_rules(language));
-    }
+void apply_language(const QString& language) {
+    QFont font = text_font(language);
+    QApplication::setFont(font);
+    font.setPixelSize(12);
+    QToolTip::setFont(font);
+    use_language_for_tags(language);
 }

@@ -1,4 +1,4 @@
-// The look of the program: style, fonts and style sheet.
+// The look of the program: style, colours and fonts.
 #pragma once
 
 class QApplication;
@@ -7,6 +7,6 @@ class QString;
 // Style and colours. Interface thread, once, before the first widget.
 void apply_look(QApplication& application);
 
-// Fonts and style sheet for a language as our tables name it, which decides what Chinese characters
+// Fonts for a language as our tables name it, which decides what Chinese characters
 // look like. Interface thread.
-void apply_language(QApplication& application, const QString& language);
+void apply_language(const QString& language);

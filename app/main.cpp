@@ -77,7 +77,7 @@ int run(QApplication& application, only_instance& place) {
     const QString language = language_for(QLocale::system().uiLanguages());
     install_language(translator, language);
     apply_look(application);
-    apply_language(application, language);
+    apply_language(language);
     texts.load(translated);
     ui_bridge bridge;
     desktop_notices desktop(QDBusConnection::sessionBus());

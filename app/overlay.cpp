@@ -60,7 +60,7 @@ overlay_dialog::overlay_dialog(QWidget* parent) : QDialog(parent) {
 
 QVBoxLayout* overlay_dialog::make_frame() {
     constexpr QMargins margins(27, 25, 27, 21); // inside the border
-    auto* frame = with_role(new QFrame, "panel");
+    auto* frame = with_role_at_once(new QFrame, "panel");
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(frame);

@@ -7,7 +7,7 @@
 #include "app/text_field.h"
 
 QLabel* wrapped_text(const QString& text, const char* role, const char* tone) {
-    auto* label = with_role(new QLabel, role, tone);
+    auto* label = with_role_at_once(new QLabel, role, tone);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setWordWrap(true);
@@ -16,7 +16,7 @@ QLabel* wrapped_text(const QString& text, const char* role, const char* tone) {
 }
 
 text_field* one_line_text(const QString& text, int height, const char* role, const char* tone) {
-    auto* field = with_role(new text_field(nullptr), role, tone);
+    auto* field = with_role_at_once(new text_field(nullptr), role, tone);
     field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     field->setFixedHeight(height);
     field->set_value(text);

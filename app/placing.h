@@ -36,3 +36,10 @@ Widget* with_role(Widget* widget, const char* role, const char* tone = nullptr) 
     }
     return widget;
 }
+
+// The same for what a layout measures before it is shown: with its font and border at once.
+template<class Widget>
+Widget* with_role_at_once(Widget* widget, const char* role, const char* tone = nullptr) {
+    with_role(widget, role, tone)->ensurePolished();
+    return widget;
+}

@@ -19,7 +19,7 @@ constexpr int line_height = 18;
 constexpr int line_distance = 2;
 
 struct tone_look {
-    const char* fate; // of the card, for the style sheet
+    const char* fate; // of the card, for the style
     const char* tone; // of the words
     const char* icon;
 };
@@ -73,7 +73,7 @@ QLayout* make_note(const char* icon, QLabel* words) {
 
 QFrame* make_card(const plan_card& card, const char* name) {
     const tone_look look = look_of(card.tone);
-    auto* frame = with_role(new QFrame, "card");
+    auto* frame = with_role_at_once(new QFrame, "card");
     frame->setObjectName(QLatin1String(name));
     frame->setProperty("fate", look.fate);
     frame->setAccessibleName(one_line(as_line(card)));

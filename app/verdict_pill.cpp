@@ -28,6 +28,7 @@ verdict_pill::verdict_pill(QWidget* parent)
     with_role(this, "pill");
     icon_->setGeometry(left, (height_of_pill - icon_size) / 2, icon_size, icon_size);
     tell_picture(icon_, {}); // the word says it
+    with_role(word_, "verdict");
     word_->setObjectName(QStringLiteral("verdict"));
 }
 

@@ -102,7 +102,7 @@ void spoken_window::SetUp() {}
 
 void spoken_window::open_in(const QString& language) {
     ASSERT_TRUE(install_language(translator_, language)) << language.toStdString();
-    apply_language(*qApp, language);
+    apply_language(language);
     model_test::SetUp(); // NOLINT(bugprone-parent-virtual-call): texts come before the window
     string_table table;
     table.load(translated);

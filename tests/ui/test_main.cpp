@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     apply_look(application);
-    apply_language(application, QStringLiteral("en"));
+    apply_language(QStringLiteral("en"));
 #if defined(__SANITIZE_THREAD__)
     unpainted screen;
     application.installEventFilter(&screen);
