@@ -56,15 +56,11 @@ void radio_matrix::set_in_use_text(const QString& text) {
 }
 
 void radio_matrix::set_in_use(std::optional<int> row) {
-    constexpr int gap = 8;
     for (int other = 0; other < rows; ++other) {
         const row_widgets& widgets = rows_[static_cast<std::size_t>(other)];
-        widgets.name->ensurePolished();
-        const int name_width = widgets.name->fontMetrics().horizontalAdvance(widgets.name->text());
-        const QRect name = widgets.name->geometry();
-        widgets.in_use->setGeometry(name.left() + name_width + gap, name.top(),
-                                    name.width() - name_width - gap, name.height());
-        widgets.in_use->fit_text(Qt::AlignLeft);
+        if (row == other) {
+            put_behind_name(widgets);
+        }
         widgets.in_use->set_value(row == other ? in_use_text_ : QString());
         const QString meaning = widgets.meaning->text();
         set_tip(widgets.button, QString(),
@@ -134,7 +130,18 @@ radio_matrix::row_widgets radio_matrix::make_row(int row) {
     auto* in_use = new text_field(frame);
     in_use->setProperty("role", "tag");
     in_use->setProperty("tone", "busy");
+    in_use->resize(0, 0); // until it says something
     return {frame, button, name, meaning, in_use};
+}
+
+void radio_matrix::put_behind_name(const row_widgets& row) {
+    constexpr int gap = 8;
+    row.name->ensurePolished();
+    const int name_width = row.name->fontMetrics().horizontalAdvance(row.name->text());
+    const QRect name = row.name->geometry();
+    row.in_use->setGeometry(name.left() + name_width + gap, name.top(),
+                            name.width() - name_width - gap, name.height());
+    row.in_use->fit_text(Qt::AlignLeft);
 }
 
 void radio_matrix::take_choice(int row) {

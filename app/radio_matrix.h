@@ -47,6 +47,7 @@ private:
     };
 
     row_widgets make_row(int row);
+    static void put_behind_name(const row_widgets& row);
     void take_choice(int row);
     void show_choice();
 

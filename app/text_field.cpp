@@ -29,7 +29,6 @@ void text_field::fit() {
     if (fitted_place_.isNull()) {
         return;
     }
-    ensurePolished();
     const int wanted = text().isEmpty() ? 0 : qMin(sizeHint().width(), fitted_place_.width());
     QRect area = fitted_place_;
     if (fitted_edge_.testFlag(Qt::AlignRight)) {
@@ -57,10 +56,19 @@ void text_field::resizeEvent(QResizeEvent* event) {
     show_tip();
 }
 
+void text_field::showEvent(QShowEvent* event) {
+    QLabel::showEvent(event);
+    show_tip();
+}
+
 bool text_field::too_long() const {
     return !wordWrap() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
 }
 
+// What nobody sees is not measured.
 void text_field::show_tip() {
+    if (!isVisible()) {
+        return;
+    }
     set_tip(this, too_long() ? text() : QString());
 }

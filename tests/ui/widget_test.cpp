@@ -45,6 +45,7 @@ TEST(text_field, ShowsMarkupAsPlainText) {
 TEST(text_field, ThatIsTooLongIsWholeInItsTip) {
     text_field field(nullptr);
     field.resize(40, 20);
+    field.show();
     for (const char* text : {"<b>a very long</b> name", "AT&T, a very long name",
                              "a very long name  (S/N: 1)", "&lt;a very long name&gt;"}) {
         field.set_value(QLatin1String(text));
@@ -52,6 +53,14 @@ TEST(text_field, ThatIsTooLongIsWholeInItsTip) {
     }
     field.set_value(QStringLiteral("a"));
     EXPECT_EQ(field.toolTip(), QString());
+}
+
+TEST(text_field, HasItsTipWhenItIsShown) {
+    text_field field(nullptr);
+    field.resize(40, 20);
+    field.set_value(QStringLiteral("a very long name"));
+    field.show();
+    EXPECT_EQ(shown_by_tip(field.toolTip()), QStringLiteral("a very long name"));
 }
 
 TEST(text_field, IsRepeatedByItsFollower) {
