@@ -4,39 +4,39 @@
 #include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QResource>
 #include <QWindow>
-#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "app/main_window.h"
 
 namespace {
 
-// The picture for screens of that many pixels to the point.
-QImage load(const char* name, double ratio) {
-    const bool dense = ratio > 1.0;
-    QImage image(QStringLiteral(":/%1%2.png").arg(QLatin1String(name), dense ? "@2x" : ""));
-    image.setDevicePixelRatio(dense ? 2.0 : 1.0);
-    return image;
-}
-
-// As painting wants it. Qt would start a pool of threads for so large a picture, which then stay
-// with the program.
-QImage premultiplied(QImage image) {
-    if (image.format() != QImage::Format_ARGB32) {
-        return image;
+// The picture for screens of that many pixels to the point, made ready for painting by the build.
+QPixmap background(double ratio) {
+    const int scale = ratio > 1.0 ? 2 : 1;
+    const QResource resource(scale == 2 ? QStringLiteral(":/background@2x.pixels")
+                                        : QStringLiteral(":/background.pixels"));
+    const int width = main_window::width_of_content * scale;
+    const int height = main_window::height_of_content * scale;
+    auto pixels = std::make_unique<QByteArray>(resource.uncompressedData());
+    const qsizetype line = qsizetype{width} * qsizetype{sizeof(QRgb)};
+    if (pixels->size() != line * height) {
+        return {};
     }
-    for (int y = 0; y < image.height(); ++y) {
-        auto* pixels = reinterpret_cast<QRgb*>(image.scanLine(y));
-        std::transform(pixels, pixels + image.width(), pixels, [](QRgb pixel) {
-            return qAlpha(pixel) == 255 ? pixel : qPremultiply(pixel);
-        });
-    }
-    image.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
-    return image;
+    auto* bits = reinterpret_cast<uchar*>(pixels->data());
+    QImage image(
+        bits, width, height, line, QImage::Format_ARGB32_Premultiplied,
+        [](void* kept) { delete static_cast<QByteArray*>(kept); }, pixels.release());
+    image.setDevicePixelRatio(scale);
+    return QPixmap::fromImage(std::move(image));
 }
 
 } // namespace
 
 void krview::awakeFromNib() {
-    set_back(QPixmap::fromImage(premultiplied(load("RaidGUI_lumen_2", devicePixelRatio()))));
+    set_back(background(devicePixelRatio()));
 }
 
 void krview::set_back(const QPixmap& picture) {
@@ -53,7 +53,8 @@ void krview::drawRect() {
         return;
     }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    // In strips so low that Qt paints them on this thread: see premultiplied().
+    // In strips so low that Qt paints them on this thread: for more it would start a pool of
+    // threads, which then stay with the program.
     constexpr int strip_height = 30;
     for (int top = 0; top < height(); top += strip_height) {
         painter.setClipRect(0, top, width(), strip_height);

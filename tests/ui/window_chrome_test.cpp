@@ -154,11 +154,12 @@ TEST(background, WithoutItsPictureIsStillDark) {
     EXPECT_LT(painted(view).pixelColor(5, 5).lightness(), 50);
 }
 
-TEST(background, IsLoadedAtTheStart) {
+TEST(background, IsThePictureFromTheStart) {
     krview view;
     view.resize(800, 630);
     view.awakeFromNib();
-    EXPECT_NE(painted(view).pixelColor(400, 300), QColor(Qt::red));
+    const QImage picture(QStringLiteral(":/RaidGUI_lumen_2.png"));
+    EXPECT_EQ(painted(view), picture.convertToFormat(QImage::Format_ARGB32_Premultiplied));
 }
 
 } // namespace
