@@ -64,16 +64,15 @@ def next_event(process, deadline):
 
 
 def wait_until_painted(process):
-    """Until something has been drawn into a mapped window of the right size."""
+    """Until something has been drawn into a window of the right size, which is watched before it is mapped: a quick
+    program has drawn all of it by the time that we hear of the mapping."""
     deadline = time.monotonic() + PATIENCE
     watched = set()
     while True:
         event = next_event(process, deadline)
-        if event.type == X.MapNotify:
-            shape = event.window.get_geometry()
-            if (shape.width, shape.height) == SIZE:
-                event.window.damage_create(damage.DamageReportRawRectangles)
-                watched.add(event.window.id)
+        if event.type == X.CreateNotify and (event.width, event.height) == SIZE:
+            event.window.damage_create(damage.DamageReportRawRectangles)
+            watched.add(event.window.id)
         elif event.type == screen.extension_event.DamageNotify and event.drawable.id in watched:
             return
 
