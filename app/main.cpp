@@ -11,6 +11,8 @@
 #include "app/controller.h"
 #include "app/desktop_notices.h"
 #include "app/display.h"
+#include "app/first_paint.h"
+#include "app/krview.h"
 #include "app/launch_token.h"
 #include "app/look.h"
 #include "app/only_instance.h"
@@ -86,6 +88,7 @@ int run(QApplication& application, only_instance& place) {
     place.when_activated([&window](const std::string& token) { window.bring_to_front(token); });
     window.awakeFromNib();
     window.applicationDidFinishLaunching();
+    after_first_paint(window.mainview, [] { QApplication::setWindowIcon(program_icon()); });
     const int status = application.exec();
     way_out.leave(status);
     return status;
@@ -106,7 +109,6 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationDisplayName(QStringLiteral("Kestrel RAID"));
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.kestrelraid.KestrelRaid"));
-    QApplication::setWindowIcon(program_icon());
     QApplication::setQuitOnLastWindowClosed(false);
     only_instance place(QDBusConnection::sessionBus());
     if (!place.take_place(token)) {

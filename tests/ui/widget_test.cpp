@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include "app/controller_box.h"
+#include "app/first_paint.h"
 #include "app/level_indicator.h"
 #include "app/radio_matrix.h"
 #include "app/text_field.h"
@@ -69,6 +70,20 @@ TEST(text_field, IsRepeatedByItsFollower) {
     field.repeat_in(&follower);
     field.set_value(QStringLiteral("RAID 1"));
     EXPECT_EQ(follower.text(), QStringLiteral("RAID 1"));
+}
+
+TEST(first_paint, IsFollowedByTheActionOnce) {
+    QWidget widget;
+    int calls = 0;
+    after_first_paint(&widget, [&calls] { ++calls; });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(calls, 0);
+    widget.grab();
+    EXPECT_EQ(calls, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&calls] { return calls == 1; }));
+    widget.grab();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(calls, 1);
 }
 
 TEST(level_indicator, KeepsToItsEnds) {
