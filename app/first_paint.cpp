@@ -12,20 +12,25 @@ public:
     first_paint(QWidget* widget, std::function<void()> action)
         : QObject(widget), action_(std::move(action)) {
         widget->installEventFilter(this);
+        painted_.setSingleShot(true);
+        connect(&painted_, &QTimer::timeout, this, [this] {
+            action_();
+            deleteLater();
+        });
     }
 
 protected:
     bool eventFilter(QObject* widget, QEvent* event) override {
         if (event->type() == QEvent::Paint) {
             widget->removeEventFilter(this);
-            QTimer::singleShot(0, widget, std::move(action_));
-            deleteLater();
+            painted_.start(0);
         }
         return false;
     }
 
 private:
     std::function<void()> action_;
+    QTimer painted_;
 };
 
 } // namespace
