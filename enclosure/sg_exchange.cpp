@@ -85,7 +85,7 @@ exchange made_once(sg_nodes& nodes, const file_handle& node, byte_view cdb, byte
     reply.status = static_cast<scsi_status>(request.status);
     reply.sense.assign(sense.begin(),
                        sense.begin() + std::min<std::ptrdiff_t>(request.sb_len_wr, longest_sense));
-    in.resize(moved(in.size(), request.resid));
+    in.erase(in.begin() + static_cast<std::ptrdiff_t>(moved(in.size(), request.resid)), in.end());
     reply.data_in = std::move(in);
     return {delivery::answered, std::move(reply), moved(out.size(), request.resid) < out.size()};
 }
