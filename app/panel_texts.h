@@ -6,7 +6,7 @@
 class QLabel;
 class text_field;
 
-// All of them: `role` and `tone` are the style sheet's; the caller owns the widget until it is put
+// All of them: `role` and `tone` are the style's; the caller owns the widget until it is put
 // into a layout. Interface thread.
 
 // Plain text of as many lines as it needs.

@@ -27,7 +27,7 @@ template<class Widget> Widget* make(QWidget* parent, const char* name, const QRe
     return outlet(make<Widget>(parent, where), name);
 }
 
-// Sets what the style sheet looks at.
+// Sets what the style looks at.
 template<class Widget>
 Widget* with_role(Widget* widget, const char* role, const char* tone = nullptr) {
     widget->setProperty("role", role);

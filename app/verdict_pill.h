@@ -11,7 +11,7 @@ class verdict_pill final : public QFrame {
 public:
     explicit verdict_pill(QWidget* parent);
 
-    // `state` is "ok", "warn", "err", "busy" or "none": the tone of the style sheet and the name
+    // `state` is "ok", "warn", "err", "busy" or "none": the tone of the style and the name
     // of the icon.
     void show_verdict(const char* state, const QString& word);
 
