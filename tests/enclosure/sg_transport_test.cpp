@@ -33,18 +33,20 @@ protected:
 
     handles listed() { return way_.bridges().handles; }
 
-    // How many seconds the bridge is given for a command that ends with that host status.
+    // How many seconds the bridge is given for a command that ends with that host status, as all
+    // that follow do.
     unsigned limit_of_a_command(std::uint32_t device, unsigned short host_status) {
-        unsigned limit = 0;
-        nodes_.on_command = [&](sg_io_hdr& request) {
-            limit = request.timeout / 1000;
+        nodes_.on_command = [this, host_status](sg_io_hdr& request) {
+            limit_ = request.timeout / 1000;
             request.host_status = host_status;
             return 0;
         };
         const std::array<std::uint8_t, 16> command{};
         way_.execute(device, command, {}, 0);
-        return limit;
+        return limit_;
     }
+
+    unsigned limit_ = 0;
 
     scripted_sg nodes_;
     enclosure::sg_transport way_{nodes_};

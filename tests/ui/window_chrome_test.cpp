@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTreeView>
+#include <algorithm>
 #include <gmock/gmock.h>
 
 #include "app/controller_box.h"
@@ -158,8 +159,17 @@ TEST(background, IsThePictureFromTheStart) {
     krview view;
     view.resize(800, 630);
     view.awakeFromNib();
+    const QImage shown = painted(view);
     const QImage picture(QStringLiteral(":/RaidGUI_lumen_2.png"));
-    EXPECT_EQ(painted(view), picture.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    ASSERT_EQ(shown.size(), picture.size());
+    ASSERT_EQ(picture.format(), QImage::Format_ARGB32);
+    for (int y = 0; y < shown.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(shown.constScanLine(y));
+        const auto* expected = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        EXPECT_TRUE(std::equal(line, line + shown.width(), expected, [](QRgb one, QRgb other) {
+            return one == qPremultiply(other);
+        })) << y;
+    }
 }
 
 } // namespace
