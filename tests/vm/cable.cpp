@@ -6,7 +6,7 @@
 #include <poll.h>
 
 #include <memory>
-#include <optional>
+#include <mutex>
 #include <stdexcept>
 #include <string_view>
 
@@ -38,23 +38,32 @@ public:
         }
     }
 
-    // Until the device with that serial number has come and gone. The number is the event's own:
-    // by the time it is read the device may have gone.
-    void await_departure(std::string_view serial) {
-        std::optional<std::string> path;
+    // Until the device with that serial number has come; where it is. The number is the event's
+    // own: by the time it is read the device may have gone.
+    std::string await_arrival(std::string_view serial) {
         for (;;) {
             const auto event = next();
-            const std::string_view action = udev_device_get_action(&*event);
             const char* const number = udev_device_get_property_value(&*event, "ID_SERIAL_SHORT");
-            if (action == "add" && number != nullptr && number == serial) {
-                path = udev_device_get_syspath(&*event);
-            } else if (action == "remove" && path == udev_device_get_syspath(&*event)) {
+            if (is(*event, "add") && number != nullptr && number == serial) {
+                return udev_device_get_syspath(&*event);
+            }
+        }
+    }
+
+    void await_departure(const std::string& path) {
+        for (;;) {
+            const auto event = next();
+            if (is(*event, "remove") && path == udev_device_get_syspath(&*event)) {
                 return;
             }
         }
     }
 
 private:
+    static bool is(udev_device& event, std::string_view action) {
+        return udev_device_get_action(&event) == action;
+    }
+
     udev_pointer<udev> context_;
     udev_pointer<udev_monitor> monitor_;
 };
@@ -81,10 +90,21 @@ bool cable::attach() {
     return try_run("usbip attach --remote 127.0.0.1 --busid " + bus_id_);
 }
 
-// Each attachment needs its own events, from before it on.
+// Each attachment needs its own events, from before it on. One at a time: usbip refuses to attach
+// while another device is on its way into the kernel.
 void cable::keep_attached() {
-    for (usb_events events; attach();) {
-        events.await_departure(serial_);
+    static std::mutex attaching;
+    usb_events events;
+    for (;;) {
+        std::string path;
+        {
+            const std::lock_guard alone(attaching);
+            if (!attach()) {
+                return;
+            }
+            path = events.await_arrival(serial_);
+        }
+        events.await_departure(path);
     }
 }
 
