@@ -10,8 +10,8 @@ namespace enclosure {
 
 namespace {
 
-constexpr std::size_t most_enclosures = 64;
-constexpr std::size_t most_disks = 256;
+constexpr std::size_t most_enclosures = 256; // as many as a device list has room for
+constexpr std::size_t most_disks = 1024;
 
 // Between two looks at a copy that is limited by its rate.
 constexpr moment copy_interval = std::chrono::milliseconds(20);
@@ -100,7 +100,7 @@ void desk::add_enclosure(cabinet_settings settings) {
                       "' exists already; take another name or remove it first");
     }
     if (cabinets_.size() >= most_enclosures) {
-        throw problem("there are 64 enclosures already; remove one first");
+        throw problem("there are 256 enclosures already; remove one first");
     }
     assign_place(settings);
     const std::string name = settings.name;
@@ -125,7 +125,7 @@ void desk::add_disk(const std::string& name, const identify_block& identity) {
         throw problem("disk '" + name + "' exists already; take another name or remove it first");
     }
     if (disks_.size() >= most_disks) {
-        throw problem("there are 256 disks already; remove one first");
+        throw problem("there are 1024 disks already; remove one first");
     }
     disks_.emplace(name, std::make_shared<disk>(disk::create(name, identity, image_of(name))));
     watcher_.disk_added(name);

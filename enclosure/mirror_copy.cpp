@@ -107,7 +107,8 @@ std::uint64_t mirror_copy::copy_piece(std::uint64_t limit) {
 }
 
 bool mirror_copy::copy_stored(std::uint64_t lba, std::uint64_t count) {
-    std::vector<std::uint8_t> data(count * sector_size);
+    buffer_.resize(piece * sector_size);
+    const byte_room data(buffer_.data(), count * sector_size);
     return path_.perform({io_kind::read, progress_->source, lba, count, data}) &&
            path_.perform({io_kind::write, 1 - progress_->source, lba, count, data});
 }

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace enclosure {
 
@@ -80,6 +81,7 @@ private:
     std::uint64_t rate_ = usual_rate;
     moment measured_from_{0};
     std::uint64_t done_then_ = 0;
+    std::vector<std::uint8_t> buffer_; // of one piece, kept: new memory costs more than the copying
 };
 
 } // namespace enclosure

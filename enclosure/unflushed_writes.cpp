@@ -7,15 +7,19 @@ void unflushed_writes::note(const disk_image& image, std::uint64_t lba, std::uin
         settle();
         return;
     }
-    former_content before{lba, std::vector<std::uint8_t>(count * sector_size)};
-    if (!image.read(lba, before.data)) {
-        return; // then it cannot be written either
-    }
+    std::vector<std::uint8_t> before; // in memory of before: new one costs more than the reading
     while (held_ + count > room) {
-        held_ -= former_.front().data.size() / sector_size;
+        held_ -= former_.front().count;
+        before = std::move(former_.front().data);
         former_.pop_front();
     }
-    former_.push_back(std::move(before));
+    const disk_image::extent there = image.extent_at(lba, count);
+    const bool empty = !there.stored && there.count >= count;
+    before.resize(empty ? 0 : count * sector_size);
+    if (!empty && !image.read(lba, before)) {
+        return; // then it cannot be written either
+    }
+    former_.push_back({lba, count, std::move(before)});
     held_ += count;
 }
 
@@ -27,7 +31,8 @@ void unflushed_writes::settle() {
 bool unflushed_writes::undo(disk_image& image) {
     bool done = true;
     for (; !former_.empty(); former_.pop_back()) {
-        done = image.write(former_.back().lba, former_.back().data) && done;
+        const auto& [lba, count, data] = former_.back();
+        done = (data.empty() ? image.clear(lba, count) : image.write(lba, data)) && done;
     }
     held_ = 0;
     return done;

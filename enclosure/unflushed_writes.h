@@ -27,7 +27,8 @@ public:
 private:
     struct former_content {
         std::uint64_t lba;
-        std::vector<std::uint8_t> data;
+        std::uint64_t count;            // sectors
+        std::vector<std::uint8_t> data; // empty: the image stored nothing
     };
 
     std::deque<former_content> former_;
