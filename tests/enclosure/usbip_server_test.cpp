@@ -6,11 +6,9 @@
 #include "tests/enclosure/exported_desk.h"
 #include "tests/enclosure/scripted_owner.h"
 #include "tests/enclosure/usbip_client.h"
+#include "tests/support/no_more_files.h"
 
 #include <gtest/gtest.h>
-
-#include <sys/resource.h>
-#include <unistd.h>
 
 namespace enclosure {
 namespace {
@@ -113,23 +111,6 @@ TEST_F(UsbipServer, AFullHouseLetsTheNextOneWait) {
 
 // The sanitizers open files of their own to look at memory.
 #ifndef __SANITIZE_ADDRESS__
-
-// Opens no further file.
-class no_more_files {
-public:
-    no_more_files() {
-        ::getrlimit(RLIMIT_NOFILE, &former_);
-        const file_handle next(::dup(STDERR_FILENO));
-        const rlimit none{static_cast<rlim_t>(next.get()), former_.rlim_max};
-        ::setrlimit(RLIMIT_NOFILE, &none);
-    }
-    ~no_more_files() { ::setrlimit(RLIMIT_NOFILE, &former_); }
-    no_more_files(const no_more_files&) = delete;
-    no_more_files& operator=(const no_more_files&) = delete;
-
-private:
-    rlimit former_{};
-};
 
 TEST_F(UsbipServer, WhoCannotBeTakenKeepsNobodyBusyAndIsTakenLater) {
     const auto late = client();

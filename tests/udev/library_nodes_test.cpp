@@ -4,8 +4,8 @@
 
 #include "device/bridge_node.h"
 #include "device/sg_handle.h"
+#include "tests/support/no_more_files.h"
 #include "tests/udev/mock_bus.h"
-#include "tests/udev/no_more_files.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Bridges that come, go, and come again.
+#include "tests/support/no_more_files.h"
 #include "tests/udev/heard_source.h"
 #include "tests/udev/mock_bus.h"
-#include "tests/udev/no_more_files.h"
 
 #include <gtest/gtest.h>
 

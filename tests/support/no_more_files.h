@@ -2,13 +2,17 @@
 #pragma once
 
 #include <sys/resource.h>
+#include <unistd.h>
 
-// While it lives, no file and no folder can be opened.
+// While it lives, no file and no folder can be opened; those that are open can still be polled,
+// which a lower limit would forbid.
 class no_more_files {
 public:
     no_more_files() {
         ::getrlimit(RLIMIT_NOFILE, &former_);
-        const rlimit none{0, former_.rlim_max};
+        const int next = ::dup(STDERR_FILENO);
+        ::close(next);
+        const rlimit none{static_cast<rlim_t>(next), former_.rlim_max};
         ::setrlimit(RLIMIT_NOFILE, &none);
     }
     ~no_more_files() { ::setrlimit(RLIMIT_NOFILE, &former_); }
