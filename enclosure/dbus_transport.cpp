@@ -35,6 +35,7 @@ bool is_gone(const sdbus::Error& error) {
                                     "org.freedesktop.DBus.Error.NameHasNoOwner",
                                     "org.freedesktop.DBus.Error.UnknownObject",
                                     "org.freedesktop.DBus.Error.UnknownInterface",
+                                    "org.freedesktop.DBus.Error.UnknownProperty",
                                     "org.freedesktop.DBus.Error.UnknownMethod"});
 }
 
@@ -110,6 +111,14 @@ std::vector<std::uint32_t> dbus_transport::bridges_of(const std::string& service
     return handles;
 }
 
+// Asks for the one bridge: opening each of n bridges must not list all n every time.
+bool dbus_transport::has_bridge(const std::string& service_owner, std::uint32_t handle) {
+    const auto told = sdbus::createProxy(connection(), service_owner, bus::bridge_path(handle))
+                          ->getProperty("Handle")
+                          .onInterface(bus::bridge_interface);
+    return told.containsValueOfType<std::uint32_t>() && told.get<std::uint32_t>() == handle;
+}
+
 // What became of a request that ended with an error.
 delivery dbus_transport::failed(const sdbus::Error& error) {
     if (is_broken(error)) {
@@ -129,12 +138,11 @@ bridge_listing dbus_transport::bridges() {
 
 delivery dbus_transport::open(std::uint32_t handle) {
     try {
-        const std::string service_owner = owner();
-        const std::vector<std::uint32_t> handles = bridges_of(service_owner);
-        if (std::find(handles.begin(), handles.end(), handle) == handles.end()) {
+        std::string service_owner = owner();
+        if (!has_bridge(service_owner, handle)) {
             return delivery::gone;
         }
-        opened_[handle] = service_owner;
+        opened_[handle] = std::move(service_owner);
         return delivery::answered;
     } catch (const sdbus::Error& error) {
         return failed(error);

@@ -24,6 +24,9 @@ private:
     // The handles of a service's bridges; throws sdbus::Error.
     std::vector<std::uint32_t> bridges_of(const std::string& owner);
 
+    // Whether the service has a bridge of this handle; throws sdbus::Error.
+    bool has_bridge(const std::string& owner, std::uint32_t handle);
+
     // The service's unique name; throws sdbus::Error when there is no bus or no service.
     std::string owner();
     sdbus::IConnection& connection();

@@ -75,4 +75,19 @@ TEST_F(AbsentService, AfterTheBusWasReplacedTheNewOneIsUsed) {
     EXPECT_EQ(way.open(handle), enclosure::delivery::answered);
 }
 
+TEST(OpeningABridge, AsksForThatBridgeAlone) {
+    const auto connection = sdbus::createSessionBusConnection(enclosure::bus::service);
+    const auto only = sdbus::createObject(*connection, enclosure::bus::bridge_path(7));
+    only->registerProperty("Handle").onInterface(enclosure::bus::bridge_interface).withGetter([] {
+        return std::uint32_t{7};
+    });
+    only->finishRegistration();
+    connection->enterEventLoopAsync();
+    enclosure::dbus_transport way;
+    EXPECT_TRUE(way.bridges().handles.empty()); // nobody lists them
+    EXPECT_EQ(way.open(7), enclosure::delivery::answered);
+    EXPECT_EQ(way.open(8), enclosure::delivery::gone);
+    connection->leaveEventLoop();
+}
+
 } // namespace

@@ -44,10 +44,11 @@ inline bytes list_request() {
     return {0x01, 0x11, 0x80, 0x05, 0, 0, 0, 0};
 }
 
+// `busid` has at most 32 characters.
 inline bytes import_request(const std::string& busid) {
     bytes packet = {0x01, 0x11, 0x80, 0x03, 0, 0, 0, 0};
-    packet.insert(packet.end(), busid.begin(), busid.end());
     packet.resize(40);
+    std::copy(busid.begin(), busid.end(), packet.begin() + 8);
     return packet;
 }
 
