@@ -28,12 +28,9 @@ def tasks(pid):
 
 
 def processor_time(pid):
-    """Seconds on a processor, of all threads that live."""
-    total = 0
-    for task in tasks(pid):
-        with open(f"{task}/schedstat", encoding="ascii") as file:
-            total += int(file.read().split()[0])
-    return total / 1e9
+    """Seconds on a processor, of all threads that live or have lived: as clock_getcpuclockid names that clock."""
+    clock_of_process = (~pid << 3) | 2
+    return time.clock_gettime(clock_of_process)
 
 
 def switches(pid):
