@@ -1,45 +1,17 @@
 #include "app/krview.h"
 
 #include <QApplication>
-#include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QResource>
 #include <QWindow>
-#include <memory>
-#include <utility>
 
-#include "app/main_window.h"
-
-namespace {
-
-// The picture for screens of that many pixels to the point, made ready for painting by the build.
-QPixmap background(double ratio) {
-    const int scale = ratio > 1.0 ? 2 : 1;
-    const QResource resource(scale == 2 ? QStringLiteral(":/background@2x.pixels")
-                                        : QStringLiteral(":/background.pixels"));
-    const int width = main_window::width_of_content * scale;
-    const int height = main_window::height_of_content * scale;
-    auto pixels = std::make_unique<QByteArray>(resource.uncompressedData());
-    const qsizetype line = qsizetype{width} * qsizetype{sizeof(QRgb)};
-    if (pixels->size() != line * height) {
-        return {};
-    }
-    auto* bits = reinterpret_cast<uchar*>(pixels->data());
-    QImage image(
-        bits, width, height, line, QImage::Format_ARGB32_Premultiplied,
-        [](void* kept) { delete static_cast<QByteArray*>(kept); }, pixels.release());
-    image.setDevicePixelRatio(scale);
-    return QPixmap::fromImage(std::move(image));
-}
-
-} // namespace
+#include "app/background.h"
 
 void krview::awakeFromNib() {
     set_back(background(devicePixelRatio()));
 }
 
-void krview::set_back(const QPixmap& picture) {
+void krview::set_back(const QImage& picture) {
     back = picture;
     update();
 }
@@ -58,8 +30,9 @@ void krview::drawRect() {
     constexpr int strip_height = 30;
     for (int top = 0; top < height(); top += strip_height) {
         painter.setClipRect(0, top, width(), strip_height);
-        painter.drawPixmap(rect(), back, back.rect());
+        painter.drawImage(rect(), back, back.rect());
     }
+    rest_background();
 }
 
 void krview::paintEvent(QPaintEvent* /*event*/) {

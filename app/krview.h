@@ -1,7 +1,7 @@
 // The background view.
 #pragma once
 
-#include <QPixmap>
+#include <QImage>
 #include <QPoint>
 #include <QWidget>
 #include <optional>
@@ -15,7 +15,7 @@ public:
     // Stretches the picture over the whole view, replacing what is below.
     void drawRect();
     // For a picture other than the program's own.
-    void set_back(const QPixmap& picture);
+    void set_back(const QImage& picture);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -24,6 +24,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    QPixmap back;
+    QImage back;
     std::optional<QPoint> pressed_at_; // on the screen, until the move begins
 };

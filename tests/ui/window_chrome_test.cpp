@@ -123,11 +123,9 @@ QImage painted(krview& view) {
 }
 
 TEST(background, IsStretchedOverTheWholeView) {
-    QPixmap picture(2, 1);
-    QPainter painter(&picture);
-    painter.fillRect(0, 0, 1, 1, Qt::blue);
-    painter.fillRect(1, 0, 1, 1, Qt::green);
-    painter.end();
+    QImage picture(2, 1, QImage::Format_ARGB32_Premultiplied);
+    picture.setPixelColor(0, 0, Qt::blue);
+    picture.setPixelColor(1, 0, Qt::green);
     krview view;
     view.resize(100, 50);
     view.set_back(picture);
@@ -139,7 +137,7 @@ TEST(background, IsStretchedOverTheWholeView) {
 }
 
 TEST(background, ReplacesWhatIsBelowInsteadOfMixingWithIt) {
-    QPixmap picture(1, 1);
+    QImage picture(1, 1, QImage::Format_ARGB32_Premultiplied);
     picture.fill(QColor(0, 0, 255, 64));
     krview view;
     view.resize(10, 10);
@@ -151,7 +149,7 @@ TEST(background, ReplacesWhatIsBelowInsteadOfMixingWithIt) {
 TEST(background, WithoutItsPictureIsStillDark) {
     krview view;
     view.resize(10, 10);
-    view.set_back(QPixmap());
+    view.set_back(QImage());
     EXPECT_LT(painted(view).pixelColor(5, 5).lightness(), 50);
 }
 
