@@ -12,6 +12,7 @@
 #include "app/desktop_notices.h"
 #include "app/display.h"
 #include "app/first_paint.h"
+#include "app/font_list.h"
 #include "app/krview.h"
 #include "app/launch_token.h"
 #include "app/look.h"
@@ -104,7 +105,9 @@ int main(int argc, char* argv[]) {
         return 1;
     }
     const std::string token = launch_token();
+    font_list fonts;
     QApplication application(argc, argv);
+    fonts.wait();
     QApplication::setApplicationName(QStringLiteral("org.kestrelraid.KestrelRaid"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kestrel RAID"));
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
