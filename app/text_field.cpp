@@ -62,7 +62,17 @@ void text_field::showEvent(QShowEvent* event) {
 }
 
 bool text_field::too_long() const {
-    return !wordWrap() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+    return !wordWrap() && width_of_text() > contentsRect().width();
+}
+
+// Shaping a text takes longer than painting it: it is measured once.
+int text_field::width_of_text() const {
+    if (measured_ != text() || measured_in_ != font()) {
+        measured_ = text();
+        measured_in_ = font();
+        measured_width_ = fontMetrics().horizontalAdvance(measured_);
+    }
+    return measured_width_;
 }
 
 // What nobody sees is not measured.

@@ -1,7 +1,9 @@
 // A text field of the window.
 #pragma once
 
+#include <QFont>
 #include <QLabel>
+#include <QString>
 
 // Shows plain text, whatever it holds; one line is cut in its middle when it is too long, and is
 // whole in the tip then. Interface thread.
@@ -24,10 +26,14 @@ protected:
 
 private:
     bool too_long() const;
+    int width_of_text() const;
     void fit();
     void show_tip();
 
     text_field* follower_ = nullptr;
     QRect fitted_place_; // of a tag
     Qt::Alignment fitted_edge_;
+    mutable QString measured_; // the text that was measured last
+    mutable QFont measured_in_;
+    mutable int measured_width_ = 0; // pixels
 };
