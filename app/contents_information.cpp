@@ -99,7 +99,6 @@ void build_devices(controller& window, QWidget* page) {
     window.extras->warmbootbutton =
         make<QPushButton>(page, "warmbootbutton", QRect(356, 310, 400, 32));
     auto* tree = make<QTreeView>(page, "tree", QRect(140, 348, 624, 246));
-    set_sheet(tree, "tree");
     tree->setHeaderHidden(true);
     tree->setIndentation(24);
     tree->setUniformRowHeights(true);

@@ -11,12 +11,10 @@
 #include <utility>
 
 #include "app/action_tip.h"
-#include "app/styling.h"
 
 controller_box::controller_box(QWidget* parent) : QComboBox(parent), caption_(new QLabel(parent)) {
     caption_->setBuddy(this);
     caption_->hide();
-    set_sheet(this, "box");
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);

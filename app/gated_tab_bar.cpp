@@ -6,10 +6,7 @@
 #include <QWheelEvent>
 #include <utility>
 
-#include "app/styling.h"
-
 gated_tab_bar::gated_tab_bar(QWidget* parent) : QTabBar(parent) {
-    set_sheet(this, "tabs");
     setDrawBase(false);
     setExpanding(false);
     // The way in that cannot be asked beforehand, an assistive program's: it is undone before

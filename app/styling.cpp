@@ -1,6 +1,5 @@
 #include "app/styling.h"
 
-#include <QFile>
 #include <QIcon>
 #include <QLabel>
 #include <QPainter>
@@ -22,13 +21,6 @@ void restyle(QWidget* widget, const char* property, const QVariant& value) {
     widget->setProperty(property, value);
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
-}
-
-void set_sheet(QWidget* control, const char* name) {
-    QFile sheet(QStringLiteral(":/%1.qss").arg(QLatin1String(name)));
-    if (sheet.open(QIODevice::ReadOnly)) {
-        control->setStyleSheet(QString::fromUtf8(sheet.readAll()));
-    }
 }
 
 void set_tone(QWidget* widget, const char* tone) {

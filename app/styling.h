@@ -11,9 +11,6 @@ class QWidget;
 // Gives the widget a property that the style looks at, and applies the style anew.
 void restyle(QWidget* widget, const char* property, const QVariant& value);
 
-// Gives the control the style sheet of that name: what it is made of is not ours to paint.
-void set_sheet(QWidget* control, const char* name);
-
 // Colours of texts: "ok", "warn", "err", "busy", "quiet", "faint", or none.
 void set_tone(QWidget* widget, const char* tone);
 
