@@ -1,6 +1,6 @@
 #include "app/outlet_names.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QWidget>
 
@@ -17,7 +17,25 @@ void append_name(QWidget* widget) {
 } // namespace
 
 outlet_names::outlet_names() {
-    QCoreApplication::instance()->installEventFilter(this);
+    QAccessible::installActivationObserver(this);
+    if (QAccessible::isActive()) {
+        accessibilityActiveChanged(true);
+    }
+}
+
+outlet_names::~outlet_names() {
+    QAccessible::removeActivationObserver(this);
+}
+
+void outlet_names::accessibilityActiveChanged(bool active) {
+    qApp->removeEventFilter(this);
+    if (!active) {
+        return;
+    }
+    qApp->installEventFilter(this);
+    for (QWidget* widget : QApplication::allWidgets()) {
+        append_name(widget);
+    }
 }
 
 bool outlet_names::eventFilter(QObject* receiver, QEvent* event) {
