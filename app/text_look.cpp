@@ -9,6 +9,8 @@
 #include <QVariant>
 #include <algorithm>
 #include <array>
+#include <map>
+#include <utility>
 
 #include "app/colours.h"
 
@@ -76,14 +78,25 @@ QRgb colour_of_tone(const QByteArray& tone) {
     return tone == "faint" ? colours::faint : colours::text;
 }
 
-void set_colours(QLabel& label, QRgb colour, QRgb disabled) {
+QPalette palette_of(QRgb colour, QRgb disabled) {
     QPalette palette;
     palette.setResolveMask(0); // of its own only what is set here
     palette.setColor(QPalette::WindowText, QColor(colour));
     palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(disabled));
     palette.setColor(QPalette::Window,
                      Qt::transparent); // what the toolkit mixes into faint pictures
-    label.setPalette(palette);
+    return palette;
+}
+
+// A palette is sixty brushes, so that the few there are are kept.
+void set_colours(QLabel& label, QRgb colour, QRgb disabled) {
+    static std::map<std::pair<QRgb, QRgb>, QPalette> kept;
+    const auto key = std::pair(colour, disabled);
+    auto found = kept.find(key);
+    if (found == kept.end()) {
+        found = kept.emplace(key, palette_of(colour, disabled)).first;
+    }
+    label.setPalette(found->second);
 }
 
 } // namespace
