@@ -56,9 +56,11 @@ void text_field::resizeEvent(QResizeEvent* event) {
     show_tip();
 }
 
+// While the desktop still places the window, so that measuring does not keep it waiting.
 void text_field::showEvent(QShowEvent* event) {
     QLabel::showEvent(event);
-    show_tip();
+    QMetaObject::invokeMethod(
+        this, [this] { show_tip(); }, Qt::QueuedConnection);
 }
 
 bool text_field::too_long() const {

@@ -61,6 +61,7 @@ TEST(text_field, HasItsTipWhenItIsShown) {
     field.resize(40, 20);
     field.set_value(QStringLiteral("a very long name"));
     field.show();
+    QCoreApplication::processEvents();
     EXPECT_EQ(shown_by_tip(field.toolTip()), QStringLiteral("a very long name"));
 }
 
