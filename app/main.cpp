@@ -74,8 +74,9 @@ QIcon program_icon() {
     return icon;
 }
 
-// The program leaves from here with every thread still alive.
-int run(QApplication& application, only_instance& place) {
+// The window is made while the bus answers whether this is the only program. The program leaves
+// from here with every thread still alive.
+int run(QApplication& application, only_instance& place, const std::string& token) {
     QTranslator translator;
     const QString language = language_for(QLocale::system().uiLanguages());
     install_language(translator, language);
@@ -86,7 +87,10 @@ int run(QApplication& application, only_instance& place) {
     desktop_notices desktop(QDBusConnection::sessionBus());
     controller window(
         {bridge, threads, version, copies, desktop, static_cast<const treeview&>(*j.tree)});
-    place.when_activated([&window](const std::string& token) { window.bring_to_front(token); });
+    if (!place.take_place(token)) {
+        return 0;
+    }
+    place.when_activated([&window](const std::string& later) { window.bring_to_front(later); });
     window.awakeFromNib();
     window.applicationDidFinishLaunching();
     after_first_paint(window.mainview, [] { QApplication::setWindowIcon(program_icon()); });
@@ -114,11 +118,8 @@ int main(int argc, char* argv[]) {
     QApplication::setDesktopFileName(QStringLiteral("org.kestrelraid.KestrelRaid"));
     QApplication::setQuitOnLastWindowClosed(false);
     only_instance place(QDBusConnection::sessionBus());
-    if (!place.take_place(token)) {
-        return 0;
-    }
 #ifdef KESTREL_SHOWS_OUTLET_NAMES
     const outlet_names names;
 #endif
-    return run(application, place);
+    return run(application, place, token);
 }

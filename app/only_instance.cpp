@@ -10,6 +10,8 @@ namespace {
 
 const QString name = QStringLiteral("org.kestrelraid.KestrelRaid");
 const QString path = QStringLiteral("/org/kestrelraid/KestrelRaid");
+const QString bus_name = QStringLiteral("org.freedesktop.DBus");
+const QString bus_path = QStringLiteral("/org/freedesktop/DBus");
 const QString application = QStringLiteral("org.freedesktop.Application");
 // Two names for one thing: whichever the desktop of the other program goes by.
 const QString wayland_token = QStringLiteral("activation-token");
@@ -21,6 +23,17 @@ only_instance::only_instance(const QDBusConnection& bus) : bus_(bus) {
     new application_object(*this);
     // Before the name is ours: whoever sees the name finds the object.
     bus_.registerObject(path, this, QDBusConnection::ExportAdaptors);
+    if (bus_.isConnected()) {
+        asked_ = ask();
+    }
+}
+
+QDBusPendingReply<uint> only_instance::ask() {
+    constexpr uint do_not_queue = 4;
+    QDBusMessage request =
+        QDBusMessage::createMethodCall(bus_name, bus_path, bus_name, QStringLiteral("RequestName"));
+    request << name << do_not_queue;
+    return bus_.asyncCall(request);
 }
 
 bool only_instance::take_place(const std::string& token) {
@@ -44,7 +57,12 @@ bool only_instance::take_place(const std::string& token) {
 }
 
 bool only_instance::claim() {
-    return bus_.registerService(name);
+    QDBusPendingReply<uint> answer = asked_ ? *asked_ : ask();
+    asked_.reset();
+    answer.waitForFinished();
+    constexpr uint owner_now = 1;
+    constexpr uint owner_already = 4;
+    return answer.isValid() && (answer.value() == owner_now || answer.value() == owner_already);
 }
 
 bool only_instance::activate_other(const std::string& token) {

@@ -3,14 +3,17 @@
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
+#include <QDBusPendingReply>
 #include <QObject>
 #include <QVariantMap>
 #include <functional>
+#include <optional>
 #include <string>
 
 // The program's place on the session bus, which one at a time can have. Interface thread.
 class only_instance final : public QObject {
 public:
+    // Asks for the place at once, and does not wait for the answer.
     explicit only_instance(const QDBusConnection& bus);
 
     // Takes the place. False: another program has it and was asked to show its window, with the
@@ -23,11 +26,13 @@ public:
     void when_activated(std::function<void(const std::string& token)> activated);
 
 private:
+    QDBusPendingReply<uint> ask();
     bool claim();
     bool activate_other(const std::string& token);
     bool other_is_there();
 
     QDBusConnection bus_;
+    std::optional<QDBusPendingReply<uint>> asked_; // the first answer, until it is looked at
     std::function<void(const std::string& token)> activated_;
 
     friend class application_object;
