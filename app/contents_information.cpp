@@ -10,7 +10,6 @@
 #include "app/controller.h"
 #include "app/placing.h"
 #include "app/spoken_parts.h"
-#include "app/styling.h"
 #include "app/text_field.h"
 #include "app/titled_box.h"
 #include "app/window_contents.h"
