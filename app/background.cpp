@@ -14,13 +14,8 @@ extern "C" const uchar kestrel_background_2x[]; // NOLINT(modernize-avoid-c-arra
 
 namespace {
 
-constexpr int pixel_bytes = 4;
-
-constexpr std::size_t size_of(int scale) {
-    constexpr std::size_t size =
-        std::size_t{main_window::width_of_content} * main_window::height_of_content * pixel_bytes;
-    return size * static_cast<std::size_t>(scale * scale);
-}
+// What background.S insists on.
+static_assert(main_window::width_of_content == 800 && main_window::height_of_content == 630);
 
 // Whole pages only: others share the first and the last one.
 void rest(const uchar* pixels, std::size_t size) {
@@ -29,7 +24,8 @@ void rest(const uchar* pixels, std::size_t size) {
     const std::uintptr_t first = (begin + page - 1) / page * page;
     const std::uintptr_t last = (begin + size) / page * page;
     if (first < last) {
-        // Read-only pages of a file: a refusal costs memory, nothing else.
+        // Read-only pages of the program's file, as every loader of this system maps them: they
+        // are read again when touched. A refusal costs memory, nothing else.
         ::madvise(reinterpret_cast<void*>(first), last - first, MADV_DONTNEED); // NOLINT
     }
 }
@@ -45,7 +41,9 @@ QImage background(double ratio) {
     return image;
 }
 
-void rest_background() {
-    rest(kestrel_background_1x, size_of(1));
-    rest(kestrel_background_2x, size_of(2));
+void rest_background(const QImage& painted) {
+    const uchar* pixels = painted.constBits();
+    if (pixels == kestrel_background_1x || pixels == kestrel_background_2x) {
+        rest(pixels, static_cast<std::size_t>(painted.sizeInBytes()));
+    }
 }

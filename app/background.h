@@ -8,5 +8,6 @@
 // Interface thread.
 QImage background(double ratio);
 
-// Hands back the memory of what has been painted, until it is painted again. Interface thread.
-void rest_background();
+// Hands back the memory of a background that has been painted, until it is painted again; nothing
+// for any other picture. Interface thread.
+void rest_background(const QImage& painted);

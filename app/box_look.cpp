@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QFont>
-#include <QLineEdit>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleOptionComboBox>
@@ -85,11 +84,14 @@ void paint_list_row(QPainter& painter, const QStyleOptionViewItem& option) {
     if (selected) {
         paint_surface(painter, option.rect, {0xff3b4d5b, colours::nothing, radius, false});
     }
-    constexpr int sides = sides_of_list_row + 5; // the toolkit's own room counts, too
+    constexpr int toolkits_room = 5; // which it has in its size of a row as well
+    constexpr int sides = sides_of_list_row + toolkits_room;
     const QRect area = option.rect.adjusted(sides, 0, -sides, 0);
+    painter.save();
     painter.setPen(selected ? QColor(Qt::white) : QColor(colours::text));
     painter.setFont(option.font);
     painter.drawText(
-        area, Qt::AlignVCenter | Qt::AlignLeft,
+        area, Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignLeft,
         option.fontMetrics.elidedText(option.text, option.textElideMode, area.width()));
+    painter.restore();
 }

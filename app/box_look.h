@@ -11,6 +11,11 @@ class QStyleOptionComboBox;
 class QStyleOptionViewItem;
 class QWidget;
 
+// Pixels.
+constexpr int room_around_list = 5; // with the border
+constexpr int height_of_list_row = 32;
+constexpr int sides_of_list_row = 8;
+
 // Its font and that of its list, and the colours of its text.
 void dress_box(QComboBox& box);
 
@@ -24,7 +29,4 @@ bool is_frame_of_list(const QWidget& widget);
 bool is_in_open_list(const QWidget& widget);
 void dress_list(QAbstractItemView& list);
 void paint_frame_of_list(QPainter& painter, const QRect& area);
-constexpr int room_around_list = 5; // pixels, with the border
-constexpr int height_of_list_row = 32;
-constexpr int sides_of_list_row = 8;
 void paint_list_row(QPainter& painter, const QStyleOptionViewItem& option);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QWindow>
 
@@ -32,11 +33,13 @@ void krview::drawRect() {
         painter.setClipRect(0, top, width(), strip_height);
         painter.drawImage(rect(), back, back.rect());
     }
-    rest_background();
 }
 
-void krview::paintEvent(QPaintEvent* /*event*/) {
+void krview::paintEvent(QPaintEvent* event) {
     drawRect();
+    if (event->rect().contains(rect())) {
+        rest_background(back); // what is painted bit by bit is needed again
+    }
 }
 
 void krview::mousePressEvent(QMouseEvent* event) {

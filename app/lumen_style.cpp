@@ -1,5 +1,6 @@
 #include "app/lumen_style.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFrame>
 #include <QLabel>
@@ -145,9 +146,12 @@ void lumen_style::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         paint_branch(*painter, *option);
         return;
     }
-    if (is_tree(widget) && (element == PE_PanelItemViewRow || element == PE_PanelItemViewItem)) {
+    if (is_tree(widget) && element == PE_PanelItemViewRow) {
         paint_tree_row(*painter, *option);
         return;
+    }
+    if (is_tree(widget) && element == PE_PanelItemViewItem) {
+        return; // draw_row() has painted it, from edge to edge
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
@@ -217,7 +221,8 @@ bool lumen_style::draw_row(const QStyleOptionViewItem& option, QPainter& painter
     }
     paint_tree_row(painter, option);
     QStyleOptionViewItem inner(option);
-    inner.rect.adjust(left_of_tree_row, 0, 0, 0);
+    inner.rect =
+        visualRect(option.direction, option.rect, option.rect.adjusted(left_of_tree_row, 0, 0, 0));
     QProxyStyle::drawControl(CE_ItemViewItem, &inner, &painter, widget);
     return true;
 }

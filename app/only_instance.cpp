@@ -28,6 +28,7 @@ only_instance::only_instance(const QDBusConnection& bus) : bus_(bus) {
     }
 }
 
+// Not by the toolkit's registerService, which waits for the answer.
 QDBusPendingReply<uint> only_instance::ask() {
     constexpr uint do_not_queue = 4;
     QDBusMessage request =

@@ -18,7 +18,8 @@ public:
 
     // Takes the place. False: another program has it and was asked to show its window, with the
     // token of this start (see launch_token.h). Waits up to 5 seconds for it, and says on standard
-    // error when it does not answer. Where a place cannot be had, for want of a session bus or
+    // error when it does not answer; and for the bus itself, as long as the toolkit waits (25
+    // seconds). Where a place cannot be had, for want of a session bus or
     // because the bus gives nobody the name, every start may go on; the former is said as well.
     bool take_place(const std::string& token);
 

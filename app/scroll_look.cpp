@@ -37,9 +37,12 @@ stretch handle_of(const QStyleOptionSlider& option, int way) {
 
 QRect along(const QStyleOptionSlider& option, const stretch& part) {
     const QRect track = option.rect.adjusted(room, room, -room, -room);
-    return upright(option)
-               ? QRect(track.left(), track.top() + part.begin, track.width(), part.length)
-               : QRect(track.left() + part.begin, track.top(), part.length, track.height());
+    if (upright(option)) {
+        return {track.left(), track.top() + part.begin, track.width(), part.length};
+    }
+    return QStyle::visualRect(
+        option.direction, option.rect,
+        QRect(track.left() + part.begin, track.top(), part.length, track.height()));
 }
 
 } // namespace

@@ -40,10 +40,8 @@ QPainterPath outline(const QRectF& area) {
 
 // The light along the top, which runs out in the corners.
 void paint_light(QPainter& painter, const QRectF& area) {
-    QPainterPath lit;
-    lit.addRect(area);
-    QPainterPath dark = outline(area.translated(0, top_border));
-    painter.fillPath(outline(area).subtracted(dark).intersected(lit), QColor(colours::busy));
+    const QPainterPath dark = outline(area.translated(0, top_border));
+    painter.fillPath(outline(area).subtracted(dark), QColor(colours::busy));
 }
 
 } // namespace

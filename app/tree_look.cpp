@@ -12,6 +12,7 @@ void dress_tree(QTreeView& tree) {
     tree.viewport()->setAttribute(Qt::WA_Hover);
 }
 
+// In opaque colours: the toolkit paints a row twice, as a whole and by its cell.
 void paint_tree_row(QPainter& painter, const QStyleOption& option) {
     if (option.state.testFlag(QStyle::State_Selected)) {
         painter.fillRect(option.rect, QColor(0x25, 0x33, 0x3e));

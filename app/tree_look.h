@@ -1,11 +1,8 @@
 // What the rows of a tree look like. Interface thread.
 #pragma once
 
-#include <QStyle>
-
 class QPainter;
 class QStyleOption;
-class QStyleOptionViewItem;
 class QTreeView;
 
 constexpr int height_of_tree_row = 30; // pixels

@@ -3,7 +3,6 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
-#include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionSlider>
 #include <QTabBar>
