@@ -1,9 +1,17 @@
 #include "app/text_field.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPainter>
 #include <QStyle>
 
 #include "app/action_tip.h"
+
+namespace {
+
+constexpr QEvent::Type measure = QEvent::User; // to ourselves alone
+
+} // namespace
 
 text_field::text_field(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -59,8 +67,15 @@ void text_field::resizeEvent(QResizeEvent* event) {
 // While the desktop still places the window, so that measuring does not keep it waiting.
 void text_field::showEvent(QShowEvent* event) {
     QLabel::showEvent(event);
-    QMetaObject::invokeMethod(
-        this, [this] { show_tip(); }, Qt::QueuedConnection);
+    QCoreApplication::postEvent(this, new QEvent(measure));
+}
+
+bool text_field::event(QEvent* event) {
+    if (event->type() != measure) {
+        return QLabel::event(event);
+    }
+    show_tip();
+    return true;
 }
 
 bool text_field::too_long() const {

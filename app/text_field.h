@@ -20,6 +20,7 @@ public:
     void repeat_in(text_field* follower) { follower_ = follower; }
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
