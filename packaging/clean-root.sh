@@ -83,12 +83,14 @@ install_dependencies() {
 photograph() {
     local work number status=0
     work=$(mktemp -d)
-    mkfifo "$work/display"
+    mkfifo "$work/display" "$work/manager"
     Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
     local server=$!
     read -r number <"$work/display"
     export DISPLAY=:$number
-    openbox >/dev/null 2>&1 &
+    # A window that is shown before the window manager serves might never be.
+    openbox --startup "sh -c 'echo serves >$work/manager'" >/dev/null 2>&1 &
+    read -r _ <"$work/manager"
     timeout 300 chroot --userspec=tester "$root" /usr/bin/env -i PATH=/usr/bin:/bin LANG=C.UTF-8 \
         HOME=/home/tester DISPLAY="$DISPLAY" dbus-run-session -- sh -c "$2" >"$work/out" 2>&1 &
     local session=$!
