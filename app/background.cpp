@@ -6,16 +6,9 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "app/main_window.h"
-
-// background.S
-extern "C" const uchar kestrel_background_1x[]; // NOLINT(modernize-avoid-c-arrays)
-extern "C" const uchar kestrel_background_2x[]; // NOLINT(modernize-avoid-c-arrays)
+#include "app/pictures.h"
 
 namespace {
-
-// What background.S insists on.
-static_assert(main_window::width_of_content == 800 && main_window::height_of_content == 630);
 
 // Whole pages only: others share the first and the last one.
 void rest(const uchar* pixels, std::size_t size) {
@@ -30,20 +23,18 @@ void rest(const uchar* pixels, std::size_t size) {
     }
 }
 
+bool is_background(const QImage& image) {
+    return image.constBits() == background(image.devicePixelRatio()).constBits();
+}
+
 } // namespace
 
 QImage background(double ratio) {
-    const int scale = ratio > 1.0 ? 2 : 1;
-    QImage image(scale == 2 ? kestrel_background_2x : kestrel_background_1x,
-                 main_window::width_of_content * scale, main_window::height_of_content * scale,
-                 QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(scale);
-    return image;
+    return picture(QStringLiteral("RaidGUI_lumen_2.png"), ratio);
 }
 
 void rest_background(const QImage& painted) {
-    const uchar* pixels = painted.constBits();
-    if (pixels == kestrel_background_1x || pixels == kestrel_background_2x) {
-        rest(pixels, static_cast<std::size_t>(painted.sizeInBytes()));
+    if (!painted.isNull() && is_background(painted)) {
+        rest(painted.constBits(), static_cast<std::size_t>(painted.sizeInBytes()));
     }
 }

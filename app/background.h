@@ -1,13 +1,12 @@
-// The window's picture, ready for painting.
+// The window's picture. Interface thread.
 #pragma once
 
 #include <QImage>
 
-// For screens of that many pixels to the point: 800 x 630 pixels, or twice as many each way for
-// more than one. The pixels are those of the program's file, which is read where they are painted.
-// Interface thread.
+// For screens of that many pixels to the point: 800 x 630 points. The pixels are those of the
+// program's file, which is read where they are painted.
 QImage background(double ratio);
 
 // Hands back the memory of a background that has been painted, until it is painted again; nothing
-// for any other picture. Interface thread.
+// for any other picture.
 void rest_background(const QImage& painted);

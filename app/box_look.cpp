@@ -9,7 +9,7 @@
 #include <QStyleOptionViewItem>
 
 #include "app/colours.h"
-#include "app/style_picture.h"
+#include "app/pictures.h"
 #include "app/surfaces.h"
 
 namespace {
@@ -46,7 +46,8 @@ void paint_box(QPainter& painter, const QStyleOptionComboBox& option) {
                   {qRgba(13, 18, 24, 184), border_of(option.state), radius, true});
     const bool enabled = option.state.testFlag(QStyle::State_Enabled);
     paint_picture(painter, part_of_box(option, QStyle::SC_ComboBoxArrow),
-                  enabled ? QLatin1String("chevron-down") : QLatin1String("chevron-down-off"));
+                  enabled ? QStringLiteral("chevron-down.png")
+                          : QStringLiteral("chevron-down-off.png"));
 }
 
 QRect part_of_box(const QStyleOptionComboBox& option, QStyle::SubControl part) {

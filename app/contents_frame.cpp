@@ -1,5 +1,4 @@
 // What both pages share: background, pages, controller box and the window's own buttons.
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -12,6 +11,7 @@
 #include "app/gated_tab_bar.h"
 #include "app/krview.h"
 #include "app/main_window.h"
+#include "app/pictures.h"
 #include "app/placing.h"
 #include "app/radio_matrix.h"
 #include "app/spoken_parts.h"
@@ -26,7 +26,7 @@ namespace {
 QPushButton* picture_button(QWidget* parent, const char* name, const QRect& where,
                             const char* picture, const QSize& size) {
     auto* button = make<QPushButton>(parent, name, where);
-    button->setIcon(QIcon(QLatin1String(picture)));
+    button->setIcon(picture_icon(QLatin1String(picture)));
     button->setIconSize(size);
     return button;
 }
@@ -41,7 +41,7 @@ text_field* page_caption(QWidget* parent, const QRect& where) {
 
 void build_rail(controller& window, QWidget* view) {
     auto* icon = make<QLabel>(view, QRect(46, 14, 28, 28));
-    icon->setPixmap(QIcon(QStringLiteral(":/kestrelraid.png")).pixmap(28, 28));
+    icon->setPixmap(picture_icon(QStringLiteral("kestrelraid.png")).pixmap(28, 28));
     auto* name = with_role(make<text_field>(view, QRect(4, 46, 112, 16)), "programname");
     name->setAlignment(Qt::AlignCenter);
     name->set_value(QStringLiteral("Kestrel RAID"));
@@ -49,9 +49,9 @@ void build_rail(controller& window, QWidget* view) {
 
     constexpr QSize plate(96, 96);
     window.mainguibutton =
-        picture_button(view, "mainguibutton", QRect(12, 76, 96, 96), ":/RaidST_click.png", plate);
+        picture_button(view, "mainguibutton", QRect(12, 76, 96, 96), "RaidST_click.png", plate);
     window.showdiskguibutton = picture_button(view, "showdiskguibutton", QRect(12, 180, 96, 96),
-                                              ":/SysInfo_normal.png", plate);
+                                              "SysInfo_normal.png", plate);
     for (QPushButton* button : {window.mainguibutton, window.showdiskguibutton}) {
         button->setProperty("kind", "page");
     }
@@ -64,13 +64,13 @@ void build_top(controller& window, QWidget* view) {
         make<controller_box>(view, "controllerselectbox", QRect(128, 20, 368, 36));
     constexpr QSize small(16, 16);
     window.refresh_button = picture_button(view, "refresh_button", QRect(504, 20, 136, 36),
-                                           ":/refresh.png", QSize(20, 16));
+                                           "refresh.png", QSize(20, 16));
     window.workingindicator =
         make<working_indicator>(view, "workingindicator", QRect(652, 26, 24, 24));
     window.minimizebutton =
-        picture_button(view, "minimizebutton", QRect(704, 22, 32, 32), ":/minimise.png", small);
+        picture_button(view, "minimizebutton", QRect(704, 22, 32, 32), "minimise.png", small);
     window.closebutton =
-        picture_button(view, "closebutton", QRect(744, 22, 32, 32), ":/close.png", small);
+        picture_button(view, "closebutton", QRect(744, 22, 32, 32), "close.png", small);
     for (QPushButton* button : {window.minimizebutton, window.closebutton}) {
         button->setProperty("kind", "window");
     }

@@ -19,8 +19,8 @@
 #include "app/box_look.h"
 #include "app/button_look.h"
 #include "app/focus_ring.h"
+#include "app/pictures.h"
 #include "app/scroll_look.h"
-#include "app/style_picture.h"
 #include "app/surfaces.h"
 #include "app/tab_look.h"
 #include "app/text_look.h"
@@ -52,11 +52,11 @@ bool is_tree(const QWidget* widget) {
 void paint_radio(QPainter& painter, const QStyleOption& option) {
     const bool on = is(option.state, QStyle::State_On);
     const bool hovered = is(option.state, QStyle::State_MouseOver);
-    const char* name = on ? "radio-on" : "radio-off";
+    const char* name = on ? "radio-on.png" : "radio-off.png";
     if (!is(option.state, QStyle::State_Enabled)) {
-        name = on ? "radio-on-disabled" : "radio-off-disabled";
+        name = on ? "radio-on-disabled.png" : "radio-off-disabled.png";
     } else if (hovered) {
-        name = on ? "radio-on-hover" : "radio-hover";
+        name = on ? "radio-on-hover.png" : "radio-hover.png";
     }
     paint_picture(painter, option.rect, QLatin1String(name));
 }

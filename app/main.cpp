@@ -3,6 +3,7 @@
 #include <QDBusConnection>
 #include <QIcon>
 #include <QLocale>
+#include <QPixmap>
 #include <QTranslator>
 #include <csignal>
 #include <memory>
@@ -18,6 +19,7 @@
 #include "app/look.h"
 #include "app/only_instance.h"
 #include "app/outlet_names.h"
+#include "app/pictures.h"
 #include "app/safety_copy.h"
 #include "app/string_table.h"
 #include "app/system_version.h"
@@ -69,7 +71,8 @@ namespace {
 QIcon program_icon() {
     QIcon icon;
     for (const char* size : {"16", "32", "64", "128"}) {
-        icon.addFile(QStringLiteral(":/icon/%1.png").arg(QLatin1String(size)));
+        const QString name = QStringLiteral("icon-%1.png").arg(QLatin1String(size));
+        icon.addPixmap(QPixmap::fromImage(picture(name, 1)));
     }
     return icon;
 }

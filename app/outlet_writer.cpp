@@ -1,28 +1,14 @@
 #include "app/outlet_writer.h"
 
 #include <QAbstractButton>
-#include <QIcon>
 #include <QStackedWidget>
 
 #include "app/level_indicator.h"
+#include "app/pictures.h"
 #include "app/plain_text.h"
 #include "app/tab_view.h"
 #include "app/text_field.h"
 #include "app/titled_box.h"
-
-namespace {
-
-QIcon picture(const std::string& name) {
-    if (name.empty()) {
-        return {};
-    }
-    const QString file = QString::fromStdString(":/" + name);
-    QIcon icon(file);
-    icon.addFile(file, QSize(), QIcon::Disabled); // not drained of its colour
-    return icon;
-}
-
-} // namespace
 
 void outlet_writer::set_text(text_field* outlet, const std::string& text) {
     outlet->set_value(one_line(text));
@@ -56,7 +42,7 @@ void outlet_writer::set_hidden(QWidget* outlet, bool hidden) {
 }
 
 void outlet_writer::set_image(QAbstractButton* outlet, const std::string& name) {
-    outlet->setIcon(picture(name));
+    outlet->setIcon(coloured_icon(QString::fromStdString(name)));
     note(outlet, name.empty() ? "image none" : "image " + name);
 }
 

@@ -1,7 +1,6 @@
 #include "app/panel_texts.h"
 
-#include <QIcon>
-
+#include "app/pictures.h"
 #include "app/placing.h"
 #include "app/spoken_parts.h"
 #include "app/text_field.h"
@@ -28,6 +27,6 @@ QLabel* panel_picture(const char* name, int width, int height) {
     auto* label = new QLabel;
     label->setFixedSize(size);
     tell_picture(label, {}); // the words beside it say it
-    label->setPixmap(QIcon(QStringLiteral(":/%1.png").arg(QLatin1String(name))).pixmap(size));
+    label->setPixmap(picture_icon(QStringLiteral("%1.png").arg(QLatin1String(name))).pixmap(size));
     return label;
 }

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "app/action_tip.h"
+#include "app/pictures.h"
 #include "app/spoken_parts.h"
 #include "app/styling.h"
 #include "app/text_field.h"
@@ -19,8 +20,8 @@ namespace {
 constexpr int row_height = 46;
 constexpr int row_distance = 49;
 constexpr int row_width = 384;
-constexpr std::array<const char*, radio_matrix::rows> glyphs = {
-    ":/mode-raid0.png", ":/mode-raid1.png", ":/mode-span.png", ":/mode-none.png"};
+constexpr std::array<const char*, radio_matrix::rows> glyphs = {"mode-raid0.png", "mode-raid1.png",
+                                                                "mode-span.png", "mode-none.png"};
 
 } // namespace
 
@@ -118,7 +119,8 @@ radio_matrix::row_widgets radio_matrix::make_row(int row) {
     button->setObjectName(QStringLiteral("raidconfigradiobutton_row%1").arg(row));
     button->setGeometry(10, 14, 18, 18);
     auto* glyph = new QLabel(frame);
-    glyph->setPixmap(QIcon(QLatin1String(glyphs[static_cast<std::size_t>(row)])).pixmap(40, 24));
+    glyph->setPixmap(
+        picture_icon(QLatin1String(glyphs[static_cast<std::size_t>(row)])).pixmap(40, 24));
     glyph->setGeometry(40, 11, 40, 24);
     tell_picture(glyph, {});
     auto* name = new text_field(frame);

@@ -155,7 +155,7 @@ void show_chip_scene(controller& window, const view_state& view, const outlook& 
         show_picture(window.disk0cappicture, QStringLiteral("volume"), volume_picture_place.size());
     }
     if (view.rebuild_tab_for_choice) {
-        window.tabview->set_icon(window.rebuildtab->index, QStringLiteral(":/status-warn.png"));
+        window.tabview->set_icon(window.rebuildtab->index, QStringLiteral("status-warn.png"));
     }
     window.raidconfigradiobutton->setEnabled(true);
     show_outlook(window, now);
@@ -164,7 +164,7 @@ void show_chip_scene(controller& window, const view_state& view, const outlook& 
 void mark_running(controller& window, int source) {
     restyle(source == 0 ? window.rebuild0to1button : window.rebuild1to0button, "running", true);
     restyle(window.extras->cards[source == 0 ? 0 : 1].frame, "fate", "stays");
-    window.tabview->set_icon(window.rebuildtab->index, QStringLiteral(":/yellow.JPG"));
+    window.tabview->set_icon(window.rebuildtab->index, QStringLiteral("yellow.JPG"));
 }
 
 void show_progress_scene(controller& window) {

@@ -1,15 +1,16 @@
 #include "app/styling.h"
 
-#include <QIcon>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
 #include <QVariant>
 
+#include "app/pictures.h"
+
 namespace {
 
-QPixmap picture(const QLabel& label, const QString& name, const QSize& size) {
-    return QIcon(QStringLiteral(":/%1.png").arg(name)).pixmap(size, label.devicePixelRatio());
+QPixmap picture_for(const QLabel& label, const QString& name, const QSize& size) {
+    return picture_icon(name + QStringLiteral(".png")).pixmap(size, label.devicePixelRatio());
 }
 
 } // namespace
@@ -28,12 +29,12 @@ void set_tone(QWidget* widget, const char* tone) {
 }
 
 void show_picture(QLabel* label, const QString& name, const QSize& size) {
-    label->setPixmap(picture(*label, name, size));
+    label->setPixmap(picture_for(*label, name, size));
 }
 
 void show_faint_picture(QLabel* label, const QString& name, const QSize& size) {
     constexpr double faint = 0.6;
-    const QPixmap full = picture(*label, name, size);
+    const QPixmap full = picture_for(*label, name, size);
     if (full.isNull()) {
         label->setPixmap(full);
         return;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/gated_tab_bar.h"
+#include "app/pictures.h"
 
 tab_view::tab_view(QWidget* parent)
     : QWidget(parent),
@@ -61,8 +62,8 @@ void tab_view::set_label(int index, const QString& label) {
     bar_->setTabText(index, label);
 }
 
-void tab_view::set_icon(int index, const QString& file) {
-    bar_->setTabIcon(index, file.isEmpty() ? QIcon() : QIcon(file));
+void tab_view::set_icon(int index, const QString& picture) {
+    bar_->setTabIcon(index, picture_icon(picture));
 }
 
 QString tab_view::label(int index) const {

@@ -33,8 +33,8 @@ public:
     // While this says no, what the user asks for is not heard, from wherever it comes.
     void serve_user_only_while(std::function<bool()> idle);
     void set_label(int index, const QString& label);
-    // A picture before the label, by its file; an empty name takes it away.
-    void set_icon(int index, const QString& file);
+    // A picture before the label, by its name; an empty one takes it away.
+    void set_icon(int index, const QString& picture);
     QString label(int index) const;
     void selectTabViewItem(int index);
     // The user's way of bringing a tab to the front.

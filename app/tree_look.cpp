@@ -4,7 +4,7 @@
 #include <QStyleOption>
 #include <QTreeView>
 
-#include "app/style_picture.h"
+#include "app/pictures.h"
 
 void dress_tree(QTreeView& tree) {
     tree.setFrameShape(QFrame::NoFrame);
@@ -25,6 +25,7 @@ void paint_branch(QPainter& painter, const QStyleOption& option) {
     if (option.state.testFlag(QStyle::State_Children)) {
         const bool open = option.state.testFlag(QStyle::State_Open);
         paint_picture(painter, option.rect,
-                      open ? QLatin1String("branch-open") : QLatin1String("branch-closed"));
+                      open ? QStringLiteral("branch-open.png")
+                           : QStringLiteral("branch-closed.png"));
     }
 }

@@ -1,8 +1,8 @@
 #include "app/tree_model.h"
 
-#include <QIcon>
 #include <utility>
 
+#include "app/pictures.h"
 #include "app/plain_text.h"
 
 namespace {
@@ -86,8 +86,8 @@ QVariant tree_model::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return one_line(shown_->objectValueForTableColumn(index.column(), node));
     case Qt::DecorationRole:
-        return QIcon(
-            QStringLiteral(":/%1.png").arg(kind_of(*shown_, node, !index.parent().isValid())));
+        return picture_icon(
+            QStringLiteral("%1.png").arg(kind_of(*shown_, node, !index.parent().isValid())));
     default:
         return {};
     }

@@ -36,6 +36,11 @@ def the_second_page_shows_the_device_tree():
     wait_for("the first page", lambda: program.showing("raidmodelabel"))
 
 
+def no_plugins_for_picture_formats_are_loaded():
+    with open(f"/proc/{program.process.pid}/maps", encoding="ascii") as file:
+        check("plugins for picture formats", "imageformats" in file.read(), False)
+
+
 def a_second_enclosure_joins_the_list():
     enclosure("new", "stripe", "--firewire", "--guid", "0x00A0B0C0D0E0F001")
     enclosure("scenario", "stripe", "raid0")
@@ -94,6 +99,7 @@ def the_close_button_ends_with_0():
 
 
 run(an_empty_desk_shows_no_enclosure, a_plugged_mirror_is_listed_and_shown,
-    the_second_page_shows_the_device_tree, a_second_enclosure_joins_the_list, a_pulled_disk_is_told_and_shown,
+    the_second_page_shows_the_device_tree, no_plugins_for_picture_formats_are_loaded,
+    a_second_enclosure_joins_the_list, a_pulled_disk_is_told_and_shown,
     the_disk_pushed_in_again_has_diverged, an_unplugged_enclosure_leaves_the_list,
     a_rebuild_is_followed_to_its_end, the_close_button_ends_with_0)

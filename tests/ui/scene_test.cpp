@@ -15,19 +15,12 @@
 #include "app/krview.h"
 #include "app/level_indicator.h"
 #include "app/panel.h"
+#include "app/pictures.h"
 #include "app/radio_matrix.h"
 #include "app/text_field.h"
 #include "app/verdict_pill.h"
 #include "app/window_extras.h"
 #include "tests/ui/spoken_window.h"
-
-// These work outside namespaces only.
-static void take_pictures_away() {
-    Q_CLEANUP_RESOURCE(pictures);
-}
-static void bring_pictures_back() {
-    Q_INIT_RESOURCE(pictures);
-}
 
 namespace {
 
@@ -263,12 +256,12 @@ TEST_F(scene, GuideNamesThePagesByTheirCaptionsAndClosesOnReturn) {
 
 // As if every picture file were missing.
 TEST(window_without_pictures, IsUsable) {
-    take_pictures_away();
+    hide_pictures(true);
     class bare : public scene {
     public:
         void TestBody() override {
             SetUp();
-            ASSERT_TRUE(QPixmap(QStringLiteral(":/disk.png")).isNull());
+            ASSERT_TRUE(picture_icon(QStringLiteral("disk.png")).isNull());
             for (const std::string& state : state_names()) {
                 show_state(state);
                 EXPECT_FALSE(window->mainview->grab(QRect(0, 0, 200, 100)).isNull()) << state;
@@ -280,7 +273,7 @@ TEST(window_without_pictures, IsUsable) {
         }
     };
     bare().TestBody();
-    bring_pictures_back();
+    hide_pictures(false);
 }
 
 } // namespace
