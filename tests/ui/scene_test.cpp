@@ -240,7 +240,9 @@ TEST_F(scene, GuideIsLinkedWhereADiskHasFailedAlone) {
 TEST_F(scene, GuideNamesThePagesByTheirCaptionsAndClosesOnReturn) {
     show_state("degraded");
     QStringList said;
-    QTimer::singleShot(0, window->mainview, [&] {
+    QTimer opened;
+    opened.setSingleShot(true);
+    QObject::connect(&opened, &QTimer::timeout, &opened, [&] {
         auto* guide = window->mainview->findChild<QDialog*>("guide");
         ASSERT_NE(guide, nullptr);
         for (const QLabel* label : guide->findChildren<QLabel*>()) {
@@ -248,6 +250,7 @@ TEST_F(scene, GuideNamesThePagesByTheirCaptionsAndClosesOnReturn) {
         }
         QTest::keyClick(guide, Qt::Key_Return);
     });
+    opened.start(0);
     window->extras->status.guide_link->click();
     EXPECT_TRUE(window->idle());
     EXPECT_TRUE(said.join(QLatin1Char(' ')).contains(QStringLiteral("the “RAID status” page")));
