@@ -1,7 +1,6 @@
 // The second page: what both disks are, and the device tree.
 #include <QFrame>
 #include <QHeaderView>
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeView>

@@ -13,5 +13,5 @@ class text_field;
 QLabel* wrapped_text(const QString& text, const char* role, const char* tone = "");
 // Plain text of one line, which takes the width that there is; `height` in pixels.
 text_field* one_line_text(const QString& text, int height, const char* role, const char* tone = "");
-// A picture of the resources, drawn into width x height pixels.
+// A picture by its name, without an ending, drawn into width x height pixels.
 QLabel* panel_picture(const char* name, int width, int height);

@@ -26,6 +26,9 @@ constexpr auto places = std::to_array<place_of_picture>({
 
 bool hidden_for_tests = false;
 
+// Kept, so that the toolkit knows what it has scaled or made faint already.
+std::array<QImage, places.size()> made;
+
 int scale_for(double ratio) {
     return ratio > 1.0 ? 2 : 1;
 }
@@ -47,9 +50,12 @@ QImage picture(const QString& name, double ratio) {
     if (found == places.end() || hidden_for_tests) {
         return {};
     }
-    QImage image(kestrel_pictures + found->offset, found->width, found->height,
-                 QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(found->scale);
+    QImage& image = made.at(static_cast<std::size_t>(found - places.begin()));
+    if (image.isNull()) {
+        image = QImage(kestrel_pictures + found->offset, found->width, found->height,
+                       QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(found->scale);
+    }
     return image;
 }
 

@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QFrame>
-#include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QRadioButton>

@@ -1,7 +1,6 @@
 #include "app/tab_view.h"
 
 #include <QFrame>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QStackedWidget>
 #include <utility>

@@ -89,8 +89,12 @@ photograph() {
     read -r number <"$work/display"
     export DISPLAY=:$number
     # A window that is shown before the window manager serves might never be.
-    openbox --startup "sh -c 'echo serves >$work/manager'" >/dev/null 2>&1 &
-    read -r _ <"$work/manager"
+    manager=$work/manager openbox --startup "sh -c 'echo serves >\"\$manager\"'" >/dev/null 2>&1 &
+    read -r -t 60 _ <>"$work/manager" || {
+        echo "no window manager" >&2
+        kill $server
+        return 1
+    }
     timeout 300 chroot --userspec=tester "$root" /usr/bin/env -i PATH=/usr/bin:/bin LANG=C.UTF-8 \
         HOME=/home/tester DISPLAY="$DISPLAY" dbus-run-session -- sh -c "$2" >"$work/out" 2>&1 &
     local session=$!

@@ -37,7 +37,7 @@ def the_second_page_shows_the_device_tree():
 
 
 def no_plugins_for_picture_formats_are_loaded():
-    with open(f"/proc/{program.process.pid}/maps", encoding="ascii") as file:
+    with open(f"/proc/{program.process.pid}/maps", encoding="utf-8", errors="replace") as file:
         check("plugins for picture formats", "imageformats" in file.read(), False)
 
 

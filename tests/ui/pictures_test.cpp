@@ -10,19 +10,55 @@ namespace {
 
 const QLatin1String dense("@2x");
 
-// Half transparent pixels come out as the toolkit's own conversion has them.
-QImage as_painted(const QString& file) {
-    return QImage(file).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+// Whether it is what the file shows, half transparent pixels as the toolkit's own conversion has
+// them. Line by line: whole pictures are converted on threads that a sanitizer cannot see into.
+bool shows(const QImage& shown, const QString& file) {
+    const QImage expected(file);
+    if (expected.isNull() || shown.size() != expected.size()) {
+        return false;
+    }
+    const auto line = [](const QImage& image, int y) {
+        return image.copy(0, y, image.width(), 1)
+            .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    };
+    for (int y = 0; y < shown.height(); ++y) {
+        if (line(shown, y) != line(expected, y)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 TEST(pictures, ArePixelByPixelWhatTheirFilesShow) {
     const QDir folder(QStringLiteral(KESTREL_PICTURES));
-    const QStringList files = folder.entryList(QDir::Files);
-    ASSERT_GT(files.size(), 80);
+    const QStringList files = folder.entryList({QStringLiteral("*.png"), QStringLiteral("*.JPG")});
+    ASSERT_FALSE(files.isEmpty());
     for (const QString& file : files) {
         const double ratio = file.contains(dense) ? 2 : 1;
         const QImage shown = picture(QString(file).remove(dense), ratio);
-        EXPECT_TRUE(shown == as_painted(folder.filePath(file))) << file.toStdString();
+        EXPECT_TRUE(shows(shown, folder.filePath(file))) << file.toStdString();
+    }
+}
+
+TEST(pictures, EveryOneThatTheWindowShowsIsThereForBothKindsOfScreen) {
+    for (const char* name :
+         {"RaidGUI_lumen_2.png",    "RaidST_click.png",   "RaidST_normal.png",
+          "SysInfo_click.png",      "SysInfo_normal.png", "yellow.JPG",
+          "branch-closed.png",      "branch-open.png",    "chevron-down.png",
+          "chevron-down-off.png",   "close.png",          "disk.png",
+          "disk-error.png",         "disk-missing.png",   "disk-warning.png",
+          "enclosure.png",          "kestrelraid.png",    "minimise.png",
+          "mode-none.png",          "mode-raid0.png",     "mode-raid1.png",
+          "mode-span.png",          "panel-error.png",    "panel-info.png",
+          "panel-warn.png",         "radio-hover.png",    "radio-off.png",
+          "radio-off-disabled.png", "radio-on.png",       "radio-on-disabled.png",
+          "radio-on-hover.png",     "refresh.png",        "status-busy.png",
+          "status-error.png",       "status-info.png",    "status-none.png",
+          "status-ok.png",          "status-warn.png",    "tree-array.png",
+          "tree-disk.png",          "tree-enclosure.png", "volume.png"}) {
+        const QSize once = picture(QLatin1String(name), 1).size();
+        EXPECT_FALSE(once.isEmpty()) << name;
+        EXPECT_EQ(picture(QLatin1String(name), 2).size(), 2 * once) << name;
     }
 }
 
@@ -54,14 +90,19 @@ TEST(pictures, NoneIsACopyBeforeItIsChanged) {
     }
 }
 
+TEST(pictures, TheToolkitKnowsAnIconThatItHasSeen) {
+    const auto shown = [] { return picture_icon(QStringLiteral("disk.png")).pixmap(104, 120); };
+    EXPECT_EQ(shown().cacheKey(), shown().cacheKey());
+}
+
 TEST(pictures, WhoChangesOneChangesACopy) {
     QImage mine = picture(QStringLiteral("disk.png"), 1);
     mine.fill(Qt::red);
     QPixmap also_mine = picture_icon(QStringLiteral("disk.png")).pixmap(104, 120);
     QPainter(&also_mine).fillRect(also_mine.rect(), Qt::red);
     const QDir folder(QStringLiteral(KESTREL_PICTURES));
-    EXPECT_TRUE(picture(QStringLiteral("disk.png"), 1) ==
-                as_painted(folder.filePath(QStringLiteral("disk.png"))));
+    EXPECT_TRUE(
+        shows(picture(QStringLiteral("disk.png"), 1), folder.filePath(QStringLiteral("disk.png"))));
 }
 
 TEST(pictures, AColouredIconIsNotDrainedOfItsColour) {
