@@ -140,10 +140,13 @@ TEST_F(body, RunsOnAnotherThreadThatAsksForIt) {
 TEST_F(body, TimersAndPaintingGoOnMeanwhile) {
     bool fired = false;
     wake_point seen;
-    QTimer::singleShot(0, [&] {
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         fired = true;
         seen.wake();
     });
+    timer.start(0);
     pause.on_nth(1, [&seen] { seen.wait(); });
     window->refresh();
     EXPECT_TRUE(fired);
