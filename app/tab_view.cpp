@@ -61,8 +61,8 @@ void tab_view::set_label(int index, const QString& label) {
     bar_->setTabText(index, label);
 }
 
-void tab_view::set_icon(int index, const QString& picture) {
-    bar_->setTabIcon(index, picture_icon(picture));
+void tab_view::set_icon(int index, const QString& name) {
+    bar_->setTabIcon(index, picture_icon(name));
 }
 
 QString tab_view::label(int index) const {

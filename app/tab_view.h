@@ -34,7 +34,7 @@ public:
     void serve_user_only_while(std::function<bool()> idle);
     void set_label(int index, const QString& label);
     // A picture before the label, by its name; an empty one takes it away.
-    void set_icon(int index, const QString& picture);
+    void set_icon(int index, const QString& name);
     QString label(int index) const;
     void selectTabViewItem(int index);
     // The user's way of bringing a tab to the front.

@@ -2,6 +2,7 @@
 # A bare Debian in the folder `root`, and ways to use it. Sourced, in namespaces of its own for mounts
 # and processes.
 : "${root:?}"
+. scripts/virtual-display.sh
 
 # The Debian archives that apt has here, as lines of a sources.list.
 debian_sources() {
@@ -81,26 +82,15 @@ install_dependencies() {
 # user with a session bus and a display, writes a picture of the window and closes it. Fails when the
 # session does not end well.
 photograph() {
-    local work number status=0
+    local work status=0 pids=()
     work=$(mktemp -d)
-    mkfifo "$work/display" "$work/manager"
-    Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
-    local server=$!
-    read -r number <"$work/display"
-    export DISPLAY=:$number
-    # A window that is shown before the window manager serves might never be.
-    manager=$work/manager openbox --startup "sh -c 'echo serves >\"\$manager\"'" >/dev/null 2>&1 &
-    read -r -t 60 _ <>"$work/manager" || {
-        echo "no window manager" >&2
-        kill $server
-        return 1
-    }
+    open_display "$work" 1024x768 || { kill "${pids[@]}"; return 1; }
     timeout 300 chroot --userspec=tester "$root" /usr/bin/env -i PATH=/usr/bin:/bin LANG=C.UTF-8 \
         HOME=/home/tester DISPLAY="$DISPLAY" dbus-run-session -- sh -c "$2" >"$work/out" 2>&1 &
     local session=$!
     look_and_close "$1" "$work/out" || { status=1; end_tester; }
     wait $session || status=1
-    kill $server
+    kill "${pids[@]}"
     # The emulator writes down its state when the bus has gone. What has ended but is not reaped yet
     # does not count.
     await "! pgrep --runstates D,R,S,T -u $(inside id -u tester) >/dev/null" ||
@@ -117,30 +107,11 @@ end_tester() {
     [ ${#pids[@]} -eq 0 ] || kill "${pids[@]}"
 }
 
-# await TEXT: waits until the shell command TEXT succeeds, a minute at most.
-await() {
-    timeout 60 sh -c "until $1; do sleep 0.1; done" || {
-        echo "in vain for a minute: $1" >&2
-        return 1
-    }
-}
-
 # look_and_close FILE LOG: a picture of the program's window, when it listens and two looks at it are
 # the same; then the key that closes it.
 look_and_close() {
-    local find="xdotool search --onlyvisible --name 'Kestrel RAID'" window last='' now
-    await "grep -q 'Starting run loop' '$2'" || return 1
-    window=$(await "$find") || return 1
-    for _ in $(seq 60); do
-        import -window "$window" "$1" || return 1
-        now=$(identify -format '%#' "$1")
-        if [ "$now" = "$last" ]; then
-            timeout 60 xdotool windowactivate --sync "$window" key ctrl+q
-            return
-        fi
-        last=$now
-        sleep 0.5
-    done
-    echo "the window does not settle"
-    return 1
+    local window
+    window=$(shown_window "$2") || return 1
+    settled_picture "$window" "$1" || return 1
+    timeout 60 xdotool windowactivate --sync "$window" key ctrl+q
 }
